@@ -1,0 +1,65 @@
+# qorkit: the two commands are `make run` and `make test`.
+BUILD      ?= build
+SAN_BUILD  ?= build-sanitize
+FUZZ_BUILD ?= build-fuzz
+JOBS       ?= $(shell nproc)
+WERROR     ?= $(or $(QORKIT_WERROR),OFF)
+CMAKE_ARGS ?=
+
+.PHONY: all deps configure build run test sanitize bench fuzz format format-check install clean
+
+all: build
+
+deps:
+	@scripts/install-deps
+
+$(BUILD)/build.ninja: | deps
+	cmake -S . -B $(BUILD) -G Ninja -DQORKIT_WERROR=$(WERROR) $(CMAKE_ARGS)
+
+configure: deps
+	cmake -S . -B $(BUILD) -G Ninja -DQORKIT_WERROR=$(WERROR) $(CMAKE_ARGS)
+
+build: configure
+	cmake --build $(BUILD) -j $(JOBS)
+
+# Renders the gallery (a window when a display exists, PNG files otherwise) and shows a short
+# qorcalc session.
+run: build
+	@scripts/demo $(BUILD)
+
+test: build
+	cd $(BUILD) && ctest --output-on-failure -j $(JOBS) --timeout 600
+
+# Address and undefined-behaviour sanitizers over the standard-library-only tests.
+sanitize: deps
+	cmake -S . -B $(SAN_BUILD) -G Ninja -DCMAKE_BUILD_TYPE=Debug -DQORKIT_WERROR=$(WERROR) \
+	    -DQORKIT_SANITIZE="address;undefined" -DQORKIT_BUILD_WIDGETS=OFF \
+	    -DQORKIT_BUILD_APPS=OFF -DQORKIT_BUILD_BENCH=OFF $(CMAKE_ARGS)
+	cmake --build $(SAN_BUILD) -j $(JOBS)
+	cd $(SAN_BUILD) && ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 \
+	    ctest --output-on-failure -j $(JOBS) -L core --timeout 900
+
+bench: build
+	@for b in $(BUILD)/bench/bench_*; do echo "== $$b"; $$b --benchmark_min_time=0.2; done
+
+fuzz:
+	QORKIT_WITH_FUZZ=1 scripts/install-deps
+	CC=clang CXX=clang++ cmake -S . -B $(FUZZ_BUILD) -G Ninja -DQORKIT_BUILD_FUZZ=ON \
+	    -DQORKIT_BUILD_WIDGETS=OFF -DQORKIT_BUILD_APPS=OFF -DQORKIT_BUILD_TESTS=OFF \
+	    -DQORKIT_BUILD_BENCH=OFF
+	cmake --build $(FUZZ_BUILD) -j $(JOBS)
+	@for f in $(FUZZ_BUILD)/fuzz/fuzz_*; do echo "== $$f"; $$f -max_total_time=$${FUZZ_SECONDS:-30} -print_final_stats=1 || exit 1; done
+
+FORMAT_FILES = $(shell git ls-files -- '*.h' '*.cpp')
+
+format:
+	clang-format -i $(FORMAT_FILES)
+
+format-check: deps
+	clang-format --dry-run --Werror $(FORMAT_FILES)
+
+install: build
+	cmake --install $(BUILD) --prefix $(or $(PREFIX),/usr/local)
+
+clean:
+	rm -rf $(BUILD) $(SAN_BUILD) $(FUZZ_BUILD)

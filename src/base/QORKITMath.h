@@ -1,0 +1,112 @@
+// Math routines over 80-bit extended values.
+//
+// No routine returns NaN or infinity: domain faults raise EInvalidOp, zero divisors
+// EZeroDivide, results beyond the extended range EOverflow (all EMathError), each with a
+// resource-string message.
+//
+// Conventions:
+// - QORMod(x, y) is the floored modulus: x - y * floor(x / y), the sign of y (-7 mod 3 = 2).
+// - QORRem(x, y) is the truncated remainder: x - y * trunc(x / y), the sign of x (-7 rem 3 = -1).
+// - QORDiv(x, y) is floored division floor(x / y) (-7 div 2 = -4).
+// - QORIntDiv(x, y) is truncated division trunc(x / y) (-7 intdiv 2 = -3).
+// - XtoY(x, y): a negative base needs an integer exponent, or an exponent whose reciprocal is
+//   an odd integer (XtoY(-8, 1/3) = -2); anything else is EInvalidOp. 0 to a negative power is
+//   EZeroDivide; XtoY(0, 0) = 1.
+// - RoundDP(x, places) rounds half away from zero; negative places round to tens, hundreds...
+// - Rotations take the count modulo the width (a count of 8 on ROL8 leaves the value alone).
+// - The tolerant tests use QORFloatTolerance: FloatIsZero(x) is |x| <= tolerance;
+//   FloatIsNegative / FloatIsPositive are x < -tolerance / x > tolerance; SameFloat(a, b) is
+//   |a - b| <= tolerance * max(1, |a|, |b|).
+#pragma once
+
+#include <cstdint>
+
+#include "QORKITTypes.h"
+
+namespace qorkit {
+
+inline constexpr Extended QORFloatTolerance = 1e-15L;
+
+bool FloatIsZero(Extended x) noexcept;
+bool FloatIsNegative(Extended x) noexcept;
+bool FloatIsPositive(Extended x) noexcept;
+bool SameFloat(Extended a, Extended b) noexcept;
+
+// Raises EOverflow / EInvalidOp unless x is finite; returns x. The guard every routine uses.
+Extended CheckFloat(Extended x);
+
+Extended AbsXY(Extended x, Extended y);  // sqrt(x^2 + y^2) without intermediate overflow
+Extended XtoY(Extended x, Extended y);
+Extended Pow2(Extended x);               // 2^x
+Extended QORLog10(Extended x);
+Extended QORLog2(Extended x);
+Extended QORLn(Extended x);
+Extended QORExp(Extended x);
+Extended QORSqrt(Extended x);            // negative: EInvalidOp with rsSqRootNeg
+Extended QORMod(Extended x, Extended y);
+Extended QORRem(Extended x, Extended y);
+Extended QORDiv(Extended x, Extended y);
+Extended QORIntDiv(Extended x, Extended y);
+Extended QORFloor(Extended x);
+Extended QORCeil(Extended x);
+Extended QORSign(Extended x);            // -1, 0 or 1
+Extended Gamma(Extended x);              // poles (0, -1, -2 ...) raise EInvalidOp
+Extended LnGamma(Extended x);            // ln |Gamma(x)|
+Extended RoundDP(Extended x, std::int32_t places);
+
+// Trigonometry in radians.
+Extended QORSin(Extended x);
+Extended QORCos(Extended x);
+Extended QORTan(Extended x);
+void QORSinCos(Extended x, Extended& sinValue, Extended& cosValue);
+Extended QORArcSin(Extended x);          // |x| > 1: EInvalidOp
+Extended QORArcCos(Extended x);
+Extended QORArcTan(Extended x);
+Extended QORArcTan(Extended y, Extended x); // full-circle angle of (x, y), in (-pi, pi]
+
+// Trigonometry in degrees.
+Extended QORSinDeg(Extended degrees);
+Extended QORCosDeg(Extended degrees);
+Extended QORTanDeg(Extended degrees);
+void QORSinCosDeg(Extended degrees, Extended& sinValue, Extended& cosValue);
+Extended QORArcSinDeg(Extended x);
+Extended QORArcCosDeg(Extended x);
+Extended QORArcTanDeg(Extended x);
+Extended QORArcTanDeg(Extended y, Extended x); // full-circle angle of (x, y), in (-180, 180]
+
+// Hyperbolic functions and their inverses.
+Extended QORSinh(Extended x);
+Extended QORCosh(Extended x);
+Extended QORTanh(Extended x);
+Extended QORArSinh(Extended x);
+Extended QORArCosh(Extended x);          // x < 1: EInvalidOp
+Extended QORArTanh(Extended x);          // |x| >= 1: EInvalidOp
+
+Extended Deg2Rad(Extended degrees);
+Extended Rad2Deg(Extended radians);
+Extended Grad2Rad(Extended grads);
+Extended Rad2Grad(Extended radians);
+// Reduces an angle into [0, 360).
+Extended AdjustAngleDegree(Extended degrees);
+
+// Rotations of a word of the given width by `count` bits.
+std::uint8_t ROL8(std::uint8_t value, unsigned count) noexcept;
+std::uint16_t ROL16(std::uint16_t value, unsigned count) noexcept;
+std::uint32_t ROL32(std::uint32_t value, unsigned count) noexcept;
+std::uint64_t ROL64(std::uint64_t value, unsigned count) noexcept;
+std::uint8_t ROR8(std::uint8_t value, unsigned count) noexcept;
+std::uint16_t ROR16(std::uint16_t value, unsigned count) noexcept;
+std::uint32_t ROR32(std::uint32_t value, unsigned count) noexcept;
+std::uint64_t ROR64(std::uint64_t value, unsigned count) noexcept;
+
+// Currency amounts times a factor, rounded to the nearest 1/10000 (halves away from zero).
+// The 32-bit forms work in cents and round to the cent. Raise EOverflow when out of range,
+// EZeroDivide on a zero divisor.
+Currency MultiplyCurrencyByValue(Currency amount, Extended value);
+Currency DivideCurrencyByValue(Currency amount, Extended value);
+TQORCurrency MultiplyCurrencyByValue(TQORCurrency amount, Extended value);
+TQORCurrency DivideCurrencyByValue(TQORCurrency amount, Extended value);
+TQORLongCurrency MultiplyCurrencyByValue(TQORLongCurrency amount, Extended value);
+TQORLongCurrency DivideCurrencyByValue(TQORLongCurrency amount, Extended value);
+
+} // namespace qorkit

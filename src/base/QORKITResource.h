@@ -1,0 +1,70 @@
+// Resource strings: every user-visible text of the library is looked up at the moment of use,
+// so a host can translate it. Each text module lists its texts once, as a table
+// X(name, "English text"); the table declares one function per text (rsDivideByZero() ...)
+// returning the current translation, and enumerates the texts for translation tools.
+#pragma once
+
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace qorkit {
+
+// Translates a text of a module ("context"); returns the source text when it has none.
+using TranslationHook = std::function<std::string(std::string_view context, std::string_view source)>;
+
+// Installs the process-wide hook (an empty function restores the English texts).
+void SetTranslationHook(TranslationHook hook);
+
+// The current text of a resource string.
+std::string LoadResString(std::string_view context, std::string_view source);
+
+// One entry of a text module, for translation tools and tests.
+struct TResourceText {
+    std::string_view Name;
+    std::string_view Source;
+};
+
+// Expands a text table into declarations / definitions of its rs... functions.
+#define QORKIT_DECLARE_TEXT(name, text) std::string name();
+#define QORKIT_DEFINE_TEXT(name, text)                                                             \
+    std::string name() { return ::qorkit::LoadResString(kTextContext, text); }
+#define QORKIT_LIST_TEXT(name, text) ::qorkit::TResourceText{#name, text},
+
+// The base library's own messages.
+#define QORKIT_BASE_TEXTS(X)                                                                       \
+    X(rsDivideByZero, "Division by zero")                                                          \
+    X(rsInvalidEquation, "Invalid equation")                                                       \
+    X(rsSqRootNeg, "Square root of a negative number")                                             \
+    X(rsMemoryHistoryPrefix, "M")                                                                  \
+    X(rsCDivideByZero, "Complex division by zero")                                                 \
+    X(rsNotDefinedForValue, "Not defined for this value")                                          \
+    X(rsInvalidDate, "Invalid date")                                                               \
+    X(rsInvalidLatitude, "Invalid latitude")                                                       \
+    X(rsInvalidLongitude, "Invalid longitude")                                                     \
+    X(rsNorthAbbr, "N")                                                                            \
+    X(rsSouthAbbr, "S")                                                                            \
+    X(rsEastAbbr, "E")                                                                             \
+    X(rsWestAbbr, "W")                                                                             \
+    X(rsInvalidOperation, "Invalid floating point operation")                                      \
+    X(rsOverflow, "Floating point overflow")                                                       \
+    X(rsLogNonPositive, "Logarithm of zero or a negative number")                                  \
+    X(rsOutOfDomain, "Argument out of the function's domain")                                      \
+    X(rsInvalidFloat, "'%s' is not a valid floating point value")                                 \
+    X(rsInvalidInteger, "'%s' is not a valid integer value")                                       \
+    X(rsInvalidHex, "'%s' is not a valid hexadecimal value")                                       \
+    X(rsInvalidBinary, "'%s' is not a valid binary value")                                         \
+    X(rsInvalidOctal, "'%s' is not a valid octal value")                                           \
+    X(rsInvalidAngle, "'%s' is not a valid angle")                                                 \
+    X(rsIntegerOverflow, "'%s' is out of the integer range")
+
+QORKIT_BASE_TEXTS(QORKIT_DECLARE_TEXT)
+
+// All base-library texts.
+std::span<const TResourceText> BaseTexts();
+
+// Replaces the first "%s" of a message with an argument (for the conversion messages above).
+std::string FormatMessage(const std::string& message, std::string_view argument);
+
+} // namespace qorkit

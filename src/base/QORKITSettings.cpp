@@ -1,0 +1,66 @@
+#include "QORKITSettings.h"
+
+namespace qorkit {
+
+TFormatSettings FormatSettings;
+
+bool QORCalcRadians = true;
+Extended QORCalcMemory = 0;
+std::string QORCalcDispFont;
+std::int64_t QORProgCalcMemory = 0;
+
+TQORRegIniType QORRegIniType = ritNone;
+std::string QORRegPath;
+std::string QORRegSection;
+std::string QORIniFile;
+std::string QORIniSection;
+
+int QORCalcHelpContext = 0;
+int QORSmallCalcHelpContext = 0;
+int QORSciCalcHelpContext = 0;
+int QORProgCalcHelpContext = 0;
+
+bool QORNorthPositive = true;
+bool QOREastPositive = true;
+
+namespace {
+constexpr std::uint64_t DefaultSeed = 5489u;
+}
+
+std::mt19937_64& RandomGenerator()
+{
+    static std::mt19937_64 generator{DefaultSeed};
+    return generator;
+}
+
+void RandomSeed(std::uint64_t seed) { RandomGenerator().seed(seed); }
+
+Extended RandomExtended()
+{
+    // 64 random bits scaled into [0, 1): every bit of the extended mantissa is random.
+    constexpr Extended scale = 1.0L / 18446744073709551616.0L;
+    return static_cast<Extended>(RandomGenerator()()) * scale;
+}
+
+void ResetGlobalSettings()
+{
+    FormatSettings = TFormatSettings{};
+    QORCalcRadians = true;
+    QORCalcMemory = 0;
+    QORCalcDispFont.clear();
+    QORProgCalcMemory = 0;
+    QORRegIniType = ritNone;
+    QORRegPath.clear();
+    QORRegSection.clear();
+    QORIniFile.clear();
+    QORIniSection.clear();
+    QORCalcHelpContext = 0;
+    QORSmallCalcHelpContext = 0;
+    QORSciCalcHelpContext = 0;
+    QORProgCalcHelpContext = 0;
+    QORNorthPositive = true;
+    QOREastPositive = true;
+    RandomSeed(DefaultSeed);
+}
+
+} // namespace qorkit

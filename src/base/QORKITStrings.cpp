@@ -1,0 +1,1 @@
+#include "QORKITStrings.h"

@@ -1,0 +1,112 @@
+// Text routines: numbers to text and back, base changes of digit strings, grouping, angles,
+// small string helpers. All strings hold 8-bit characters (UTF-8 where a mark needs it).
+//
+// Separators and currency formats are read from qorkit::FormatSettings at each call.
+// Malformed text raises EConvertError with a message naming the text; nothing here is
+// undefined for any input.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "QORKITTypes.h"
+
+namespace qorkit {
+
+// ---- Floating point <-> text ---------------------------------------------------------------
+
+// Parses a decimal number: optional blanks, sign, digits with the locale decimal separator,
+// optional locale thousands separators between digits, optional exponent ("E", "e", with sign).
+// An empty mantissa ("", "-", "E5") is malformed. Raises EConvertError.
+Extended Str2Float(std::string_view s);
+// As Str2Float, but reports failure by returning false.
+bool TryStr2Float(std::string_view s, Extended& value) noexcept;
+
+// Fixed notation with exactly `decimals` decimals, rounded to nearest (halves away from zero),
+// no grouping: Float2EStr(-1234.5, 2) == "-1234.50". Zero never shows a minus sign.
+std::string Float2EStr(Extended value, std::uint8_t decimals);
+// As Float2EStr, with the integer digits grouped (threes, or lakh: last three, then twos).
+std::string Float2CEStr(Extended value, std::uint8_t decimals, bool lakh = false);
+// As Float2EStr / Float2CEStr, with trailing zero decimals (and a bare separator) removed.
+std::string Float2EStr2(Extended value, std::uint8_t decimals);
+std::string Float2CEStr2(Extended value, std::uint8_t decimals, bool lakh = false);
+// Scientific notation with `decimals` mantissa decimals: SciFloat2EStr(12345, 2) == "1.23E+04".
+// The exponent has at least two digits and always a sign.
+std::string SciFloat2EStr(Extended value, std::uint8_t decimals);
+
+// Inserts the locale thousands separator into the integer digits of a number text (after an
+// optional sign, up to the decimal separator or exponent). Text that already carries a
+// separator, or is not a number (such as "Error!"), is returned unchanged.
+std::string AddThousandsSeparators(std::string_view s, bool lakh = false);
+// Removes every locale thousands separator.
+std::string StripThousandSeparators(std::string_view s);
+
+// Right-aligned fixed notation in a field of at least `width` characters with `decimals`
+// decimals, "." as the decimal point (a program text, not a display text):
+// Float2Str(3.14159, 10, 2) == "      3.14". A negative `decimals` gives scientific notation.
+std::string Float2Str(Extended value, int width, int decimals);
+
+// ---- Integers <-> text ---------------------------------------------------------------------
+
+std::string Int2EStr(std::int64_t value);                 // signed decimal
+// Hexadecimal digits, upper case, at least `digits` long (zero-padded); negative values in
+// 64-bit two's complement, so Int2EHex(-1) == "FFFFFFFFFFFFFFFF".
+std::string Int2EHex(std::int64_t value, int digits = 16);
+// Signed decimal text to integer; blanks around are allowed. Raises EConvertError when
+// malformed or out of range.
+std::int32_t Str2Int(std::string_view s);
+std::int64_t Str2Int64(std::string_view s);
+// Hexadecimal digits (either case, at most 16) to int64: 16 digits give the two's-complement
+// value, fewer digits a non-negative value. Empty text is 0. Raises EConvertError.
+std::int64_t Hex2Int64(std::string_view hex);
+
+// Digit-string base changes. Every input digit is kept at full width (leading zeros count):
+// Hex2Bin gives 4 binary digits per hex digit; Bin2Hex pads the binary text on the left to a
+// multiple of 4; Hex2Oct converts the bit pattern of n hex digits to ceil(4n/3) octal digits;
+// Oct2Hex converts the bit pattern of n octal digits to ceil(3n/4) hex digits.
+// So Hex2Oct of 16 hex digits gives 22 octal digits. Empty text gives empty text.
+// Raises EConvertError on a digit outside the base.
+std::string Bin2Hex(std::string_view bin);
+std::string Hex2Bin(std::string_view hex);
+std::string Hex2Oct(std::string_view hex);
+std::string Oct2Hex(std::string_view oct);
+
+// Inserts `sep` between groups of `n` characters counted from the right:
+// GroupSpacing("1234567", 3, ' ') == "1 234 567". n <= 0 returns s unchanged.
+std::string GroupSpacing(std::string_view s, int n, char sep);
+// Removes every `sep`.
+std::string RemoveGroupSpacing(std::string_view s, char sep);
+
+// ---- Angles --------------------------------------------------------------------------------
+
+// Degrees as degrees, minutes and seconds with the process-wide marks, seconds with
+// `decimals` decimals: Angle2Str(12.5125, 0) == "12° 30' 45\"". Negative angles carry a
+// leading minus.
+std::string Angle2Str(Extended degrees, std::uint8_t decimals);
+// Degrees as text of the chosen units (dmsDegrees "12.51°", dmsDegreesMinutes "12° 30.75'",
+// dmsDegreesMinutesSeconds "12° 30' 45\""), the last unit with `decimals` decimals;
+// `leadingZeroes` pads minutes and seconds to two digits, `spaceUnits` puts a blank between
+// units, `trimTrailingZeroes` drops zero decimals of the last unit.
+std::string Float2DMSStr(Extended degrees, TQORDMSType type, std::uint8_t decimals,
+                         bool leadingZeroes, bool spaceUnits, bool trimTrailingZeroes);
+// Reads any of the texts above (marks optional between numbers separated by blanks, a plain
+// number is degrees; a leading minus or a trailing S/W negates). Raises EConvertError.
+Extended DMSStr2Float(std::string_view s);
+
+// ---- Currency ------------------------------------------------------------------------------
+
+// Fixed-point currency as text with `decimals` decimals, grouped, with the process-wide
+// currency symbol and positive/negative currency format.
+std::string Currency2EStr(Currency value, std::uint8_t decimals);
+// Removes the process-wide currency symbol and surrounding blanks; "(x)" becomes "-x".
+std::string StripCurrencyString(std::string_view s);
+
+// ---- Small helpers -------------------------------------------------------------------------
+
+std::string LeftStr(std::string_view s, int n);    // first n characters (all when shorter)
+std::string RightStr(std::string_view s, int n);   // last n characters (all when shorter)
+std::string PadChLeftStr(std::string_view s, char ch, int n); // pad on the left to length n
+std::string StripLChStr(std::string_view s, char ch);         // remove leading `ch` characters
+
+} // namespace qorkit

@@ -1,0 +1,85 @@
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+
+#include "QORKITResource.h"
+#include "QORKITSettings.h"
+#include "QorkitTestSupport.h"
+
+namespace qorkit {
+namespace {
+
+class ResourceTextTest : public test::GlobalStateTest { };
+
+TEST_F(ResourceTextTest, TextsAreEnglishWithoutAHook)
+{
+    EXPECT_EQ(rsNorthAbbr(), "N");
+    EXPECT_EQ(rsDivideByZero(), "Division by zero");
+}
+
+TEST_F(ResourceTextTest, HookTranslatesAtTheMomentOfUse)
+{
+    SetTranslationHook([](std::string_view context, std::string_view source) -> std::string {
+        if (context == "QORKIT_Base" && source == "N")
+            return "Nord";
+        return {};
+    });
+    EXPECT_EQ(rsNorthAbbr(), "Nord");
+    // A text the hook does not know falls back to English.
+    EXPECT_EQ(rsSouthAbbr(), "S");
+    SetTranslationHook({});
+    EXPECT_EQ(rsNorthAbbr(), "N");
+}
+
+TEST_F(ResourceTextTest, BaseTableHasUniqueNamesAndNonEmptyTexts)
+{
+    std::set<std::string_view> names;
+    for (const auto& text : BaseTexts()) {
+        EXPECT_TRUE(names.insert(text.Name).second) << text.Name;
+        EXPECT_FALSE(text.Source.empty()) << text.Name;
+    }
+    EXPECT_TRUE(names.contains("rsInvalidDate"));
+}
+
+TEST_F(ResourceTextTest, FormatMessageReplacesThePlaceholder)
+{
+    EXPECT_EQ(FormatMessage(rsInvalidFloat(), "1.2.3"), "'1.2.3' is not a valid floating point value");
+    EXPECT_EQ(FormatMessage("no placeholder", "x"), "no placeholder");
+}
+
+class GlobalSettingsTest : public test::GlobalStateTest { };
+
+TEST_F(GlobalSettingsTest, ResetRestoresEveryVariableAndTheRandomSequence)
+{
+    const auto first = RandomExtended();
+    FormatSettings.DecimalSeparator = ',';
+    QORCalcRadians = false;
+    QORCalcMemory = 12;
+    QORRegIniType = ritIniFile;
+    QORIniFile = "x.ini";
+    QORNorthPositive = false;
+    QORProgCalcMemory = -5;
+    ResetGlobalSettings();
+    EXPECT_EQ(FormatSettings.DecimalSeparator, '.');
+    EXPECT_TRUE(QORCalcRadians);
+    EXPECT_EQ(QORCalcMemory, 0);
+    EXPECT_EQ(QORRegIniType, ritNone);
+    EXPECT_TRUE(QORIniFile.empty());
+    EXPECT_TRUE(QORNorthPositive);
+    EXPECT_EQ(QORProgCalcMemory, 0);
+    EXPECT_EQ(RandomExtended(), first);
+}
+
+TEST_F(GlobalSettingsTest, RandomValuesStayInTheUnitInterval)
+{
+    RandomSeed(46000);
+    for (int i = 0; i < 10000; ++i) {
+        const auto r = RandomExtended();
+        ASSERT_GE(r, 0.0L);
+        ASSERT_LT(r, 1.0L);
+    }
+}
+
+} // namespace
+} // namespace qorkit
