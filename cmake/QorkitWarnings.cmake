@@ -32,3 +32,38 @@ function(qorkit_add_test name)
     gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60
         PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" LABELS ${label})
 endfunction()
+
+# A test folder: *_test.cpp files form <folder>_tests (std-only, label "core"), *_qttest.cpp
+# files form <folder>_qttests (Qt, label "qt"; built only with the widgets library).
+function(qorkit_add_test_dir folder)
+    file(GLOB core_sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*_test.cpp)
+    file(GLOB qt_sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*_qttest.cpp)
+    if(core_sources)
+        qorkit_add_test(${folder}_tests SOURCES ${core_sources} LIBS qorkit_core)
+    endif()
+    if(qt_sources AND TARGET qorkit_widgets)
+        qorkit_add_test(${folder}_qttests QT SOURCES ${qt_sources} LIBS qorkit_widgets)
+    endif()
+endfunction()
+
+# A source folder: QORKIT*.cpp files go to qorkit_core, except the modules named in QT_MODULES
+# (and every module when the folder is Qt-only), which go to qorkit_widgets with the folder's
+# .qrc resources.
+function(qorkit_add_source_dir)
+    cmake_parse_arguments(ARG "QT_ONLY" "" "QT_MODULES" ${ARGN})
+    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+    file(GLOB resources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.qrc)
+    foreach(src IN LISTS sources)
+        get_filename_component(module ${src} NAME_WE)
+        if(ARG_QT_ONLY OR module IN_LIST ARG_QT_MODULES)
+            if(TARGET qorkit_widgets)
+                target_sources(qorkit_widgets PRIVATE ${src})
+            endif()
+        else()
+            target_sources(qorkit_core PRIVATE ${src})
+        endif()
+    endforeach()
+    if(resources AND TARGET qorkit_widgets)
+        target_sources(qorkit_widgets PRIVATE ${resources})
+    endif()
+endfunction()
