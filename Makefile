@@ -45,6 +45,7 @@ bench: build
 fuzz:
 	QORKIT_WITH_FUZZ=1 scripts/install-deps
 	CC=clang CXX=clang++ cmake -S . -B $(FUZZ_BUILD) -G Ninja -DQORKIT_BUILD_FUZZ=ON \
+	    -DCMAKE_CXX_FLAGS="-fsanitize=fuzzer-no-link,address,undefined" \
 	    -DQORKIT_BUILD_WIDGETS=OFF -DQORKIT_BUILD_APPS=OFF -DQORKIT_BUILD_TESTS=OFF \
 	    -DQORKIT_BUILD_BENCH=OFF
 	cmake --build $(FUZZ_BUILD) -j $(JOBS)
