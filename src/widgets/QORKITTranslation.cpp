@@ -1,0 +1,139 @@
+#include "QORKITTranslation.h"
+
+#include "QORKITSettings.h"
+#include "QORKIT_RS_Calc.h"
+#include "QORKIT_RS_UC.h"
+
+#include <QCoreApplication>
+#include <QString>
+#include <QXmlStreamWriter>
+
+#include <array>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace qorkit {
+
+namespace {
+
+QString FromUtf8(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+// The 8-bit stand-in for a locale's separator, or fallback when there is none.
+char SeparatorChar(const QString& separator, char fallback)
+{
+    if (separator.size() != 1)
+        return fallback;
+    const QChar ch = separator.front();
+    if (ch.unicode() > 0x20 && ch.unicode() < 0x7F)
+        return static_cast<char>(ch.unicode());
+    if (ch.isSpace())
+        return ' ';
+    switch (ch.unicode()) {
+    case 0x2018: // quotation marks used as apostrophes (Switzerland, Liechtenstein)
+    case 0x2019:
+    case 0x02BC:
+        return '\'';
+    case 0x066B: // Arabic decimal separator
+        return '.';
+    case 0x066C: // Arabic thousands separator
+    case 0x060C: // Arabic comma
+        return ',';
+    default:
+        return fallback;
+    }
+}
+
+// One message of the template: a source text and every rs... name that uses it.
+struct TemplateMessage {
+    std::string_view Source;
+    std::string Names;
+};
+
+// Texts with the same source in one context share a translation (the lookup knows only the
+// context and the source), so the template lists each source once.
+std::vector<TemplateMessage> DistinctMessages(std::span<const TResourceText> texts)
+{
+    std::vector<TemplateMessage> messages;
+    std::map<std::string_view, std::size_t> index;
+    for (const auto& text : texts) {
+        const auto [it, inserted] = index.try_emplace(text.Source, messages.size());
+        if (inserted)
+            messages.push_back({text.Source, std::string(text.Name)});
+        else
+            messages[it->second].Names.append(", ").append(text.Name);
+    }
+    return messages;
+}
+
+} // namespace
+
+void InstallQtTranslationHook()
+{
+    SetTranslationHook([](std::string_view context, std::string_view source) -> std::string {
+        // translate() wants zero-terminated UTF-8; the views need not be.
+        const std::string contextText(context);
+        const std::string sourceText(source);
+        return QCoreApplication::translate(contextText.c_str(), sourceText.c_str()).toStdString();
+    });
+}
+
+void SyncFormatSettingsFromLocale(const QLocale& locale)
+{
+    const char decimal = SeparatorChar(locale.decimalPoint(), '.');
+    char thousands = SeparatorChar(locale.groupSeparator(), ',');
+    // The parsers tell the two apart, so they must never coincide.
+    if (thousands == decimal)
+        thousands = decimal == ',' ? '.' : ',';
+    FormatSettings.DecimalSeparator = decimal;
+    FormatSettings.ThousandSeparator = thousands;
+    // The C locale has no currency symbol; the library's default stands in for it.
+    const QString currency = locale.currencySymbol();
+    FormatSettings.CurrencyString
+        = currency.isEmpty() ? TFormatSettings {}.CurrencyString : currency.toStdString();
+}
+
+std::span<const TTextModule> TextModules()
+{
+    static const std::array<TTextModule, 3> modules {{
+        {"QORKIT_Base", BaseTexts()},
+        {"QORKIT_RS_Calc", CalcTexts()},
+        {"QORKIT_RS_UC", UCTexts()},
+    }};
+    return modules;
+}
+
+QByteArray TranslationTemplate()
+{
+    QByteArray result;
+    QXmlStreamWriter xml(&result);
+    xml.setAutoFormatting(true);
+    xml.setAutoFormattingIndent(4);
+    xml.writeStartDocument();
+    xml.writeDTD(QStringLiteral("<!DOCTYPE TS>"));
+    xml.writeStartElement(QStringLiteral("TS"));
+    xml.writeAttribute(QStringLiteral("version"), QStringLiteral("2.1"));
+    xml.writeAttribute(QStringLiteral("sourcelanguage"), QStringLiteral("en"));
+    for (const auto& module : TextModules()) {
+        xml.writeStartElement(QStringLiteral("context"));
+        xml.writeTextElement(QStringLiteral("name"), FromUtf8(module.Context));
+        for (const auto& message : DistinctMessages(module.Texts)) {
+            xml.writeStartElement(QStringLiteral("message"));
+            xml.writeTextElement(QStringLiteral("source"), FromUtf8(message.Source));
+            xml.writeTextElement(QStringLiteral("extracomment"), FromUtf8(message.Names));
+            xml.writeStartElement(QStringLiteral("translation"));
+            xml.writeAttribute(QStringLiteral("type"), QStringLiteral("unfinished"));
+            xml.writeEndElement();
+            xml.writeEndElement();
+        }
+        xml.writeEndElement();
+    }
+    xml.writeEndElement();
+    xml.writeEndDocument();
+    return result;
+}
+
+} // namespace qorkit

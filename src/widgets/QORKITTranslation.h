@@ -1,0 +1,43 @@
+// Qt side of the library's texts: the translation hook that lets Qt Linguist files translate
+// every rs... text, the Linguist template of those texts, and the format settings taken from a
+// QLocale.
+#pragma once
+
+#include "QORKITResource.h"
+
+#include <QByteArray>
+#include <QLocale>
+
+#include <span>
+#include <string_view>
+
+namespace qorkit {
+
+// Routes every resource-string lookup through QCoreApplication::translate(context, source),
+// so translators installed with QCoreApplication::installTranslator() translate the library.
+// The contexts are the text modules: "QORKIT_Base", "QORKIT_RS_Calc" and "QORKIT_RS_UC".
+// SetTranslationHook({}) returns to the built-in English texts.
+void InstallQtTranslationHook();
+
+// Copies the decimal and thousands separators and the currency symbol of a locale into the
+// process-wide FormatSettings. The separators are single 8-bit characters, so a locale whose
+// separator is not plain ASCII is mapped: any kind of space (no-break space, narrow no-break
+// space, thin space ...) becomes a plain blank, a typographic apostrophe becomes "'", the Arabic
+// decimal and thousands marks become "." and ",". Anything else keeps "." and "," as defaults.
+// The currency symbol is kept as UTF-8 text; a locale without one (the C locale) gives "$".
+void SyncFormatSettingsFromLocale(const QLocale& locale = QLocale());
+
+// One text module as seen by translation tools: its translation context and its texts.
+struct TTextModule {
+    std::string_view Context;
+    std::span<const TResourceText> Texts;
+};
+
+// The text modules of the library, in the order the template lists them.
+std::span<const TTextModule> TextModules();
+
+// The Qt Linguist (.ts) template of every library text: one context per text module, one
+// message per distinct source text with the rs... names that use it as translator comment.
+QByteArray TranslationTemplate();
+
+} // namespace qorkit
