@@ -6,25 +6,33 @@
 // undefined for any input.
 #pragma once
 
+#include "QORKITTypes.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
-
-#include "QORKITTypes.h"
 
 namespace qorkit {
 
 // ---- Floating point <-> text ---------------------------------------------------------------
 
 // Parses a decimal number: optional blanks, sign, digits with the locale decimal separator,
-// optional locale thousands separators between digits, optional exponent ("E", "e", with sign).
-// An empty mantissa ("", "-", "E5") is malformed. Raises EConvertError.
+// optional locale thousands separators anywhere in the integer part after its first digit
+// ("1,234", and "1,2" or "12," while typing), optional exponent ("E", "e", with sign).
+// Accepts every state of a calculator entry that has a digit: "0.", "-.5", "1E" and "1E-"
+// (an exponent without digits counts as zero). An empty mantissa ("", "-", "E5") is
+// malformed. Values too large for Extended raise EConvertError; values too small for a
+// normal Extended read as 0. Raises EConvertError (rsInvalidFloat naming the text).
 Extended Str2Float(std::string_view s);
 // As Str2Float, but reports failure by returning false.
 bool TryStr2Float(std::string_view s, Extended& value) noexcept;
 
 // Fixed notation with exactly `decimals` decimals, rounded to nearest (halves away from zero),
 // no grouping: Float2EStr(-1234.5, 2) == "-1234.50". Zero never shows a minus sign.
+// Rounding works on the value's 18 significant decimal digits (what an extended float holds
+// reliably), so 0.125 gives "0.13" and 1.005 gives "1.01" at 2 decimals, and digits past the
+// 18th show as zeros. Every finite value formats (1e4932 gives 4933 integer digits); NaN
+// raises EInvalidOp and infinity EOverflow, in every formatter of this module.
 std::string Float2EStr(Extended value, std::uint8_t decimals);
 // As Float2EStr, with the integer digits grouped (threes, or lakh: last three, then twos).
 std::string Float2CEStr(Extended value, std::uint8_t decimals, bool lakh = false);
@@ -49,16 +57,18 @@ std::string Float2Str(Extended value, int width, int decimals);
 
 // ---- Integers <-> text ---------------------------------------------------------------------
 
-std::string Int2EStr(std::int64_t value);                 // signed decimal
+std::string Int2EStr(std::int64_t value); // signed decimal
 // Hexadecimal digits, upper case, at least `digits` long (zero-padded); negative values in
 // 64-bit two's complement, so Int2EHex(-1) == "FFFFFFFFFFFFFFFF".
 std::string Int2EHex(std::int64_t value, int digits = 16);
 // Signed decimal text to integer; blanks around are allowed. Raises EConvertError when
-// malformed or out of range.
+// malformed (rsInvalidInteger; this includes "", a lone sign and any stray character) or out
+// of range (rsIntegerOverflow).
 std::int32_t Str2Int(std::string_view s);
 std::int64_t Str2Int64(std::string_view s);
 // Hexadecimal digits (either case, at most 16) to int64: 16 digits give the two's-complement
-// value, fewer digits a non-negative value. Empty text is 0. Raises EConvertError.
+// value, fewer digits a non-negative value. Empty text is 0; blanks around are allowed. Raises
+// EConvertError on a non-hex character (no sign either) or more than 16 digits.
 std::int64_t Hex2Int64(std::string_view hex);
 
 // Digit-string base changes. Every input digit is kept at full width (leading zeros count):
@@ -104,9 +114,9 @@ std::string StripCurrencyString(std::string_view s);
 
 // ---- Small helpers -------------------------------------------------------------------------
 
-std::string LeftStr(std::string_view s, int n);    // first n characters (all when shorter)
-std::string RightStr(std::string_view s, int n);   // last n characters (all when shorter)
+std::string LeftStr(std::string_view s, int n); // first n characters (all when shorter)
+std::string RightStr(std::string_view s, int n); // last n characters (all when shorter)
 std::string PadChLeftStr(std::string_view s, char ch, int n); // pad on the left to length n
-std::string StripLChStr(std::string_view s, char ch);         // remove leading `ch` characters
+std::string StripLChStr(std::string_view s, char ch); // remove leading `ch` characters
 
 } // namespace qorkit
