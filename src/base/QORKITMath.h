@@ -5,7 +5,10 @@
 // resource-string message.
 //
 // Conventions:
-// - QORMod(x, y) is the floored modulus: x - y * floor(x / y), the sign of y (-7 mod 3 = 2).
+// - Every argument must be finite: a NaN raises EInvalidOp, an infinity EOverflow. A zero result
+//   is always +0, never -0.
+// - QORMod(x, y) is the floored modulus: x - y * floor(x / y), the sign of y (-7 mod 3 = 2),
+//   strictly inside (-|y|, |y|): QORMod(-1e-30, 360) is 0, not 360.
 // - QORRem(x, y) is the truncated remainder: x - y * trunc(x / y), the sign of x (-7 rem 3 = -1).
 // - QORDiv(x, y) is floored division floor(x / y) (-7 div 2 = -4).
 // - QORIntDiv(x, y) is truncated division trunc(x / y) (-7 intdiv 2 = -3).
@@ -13,15 +16,24 @@
 //   an odd integer (XtoY(-8, 1/3) = -2); anything else is EInvalidOp. 0 to a negative power is
 //   EZeroDivide; XtoY(0, 0) = 1.
 // - RoundDP(x, places) rounds half away from zero; negative places round to tens, hundreds...
+//   It rounds the decimal value of x as written with 18 significant digits, so a typed 1.005
+//   (stored a hair below 1.005) rounds to 1.01 at two places, like 2.5 to 3 and -2.5 to -3.
+// - Gamma and LnGamma raise EInvalidOp at the poles 0, -1, -2 ...; Gamma of a small positive
+//   integer n is exactly (n - 1)!.
+// - QORArcSin / QORArcCos (and the degree forms) take arguments within QORFloatTolerance beyond
+//   +-1 as +-1 (rounding in the caller's arithmetic); further out they raise EInvalidOp.
+// - The degree routines reduce the angle in degrees first, so multiples of 90 are exact
+//   (QORSinDeg(180) == 0, QORCosDeg(90) == 0), as are 30 and 45 degrees and their inverses;
+//   QORTanDeg(90) raises EInvalidOp.
 // - Rotations take the count modulo the width (a count of 8 on ROL8 leaves the value alone).
 // - The tolerant tests use QORFloatTolerance: FloatIsZero(x) is |x| <= tolerance;
 //   FloatIsNegative / FloatIsPositive are x < -tolerance / x > tolerance; SameFloat(a, b) is
 //   |a - b| <= tolerance * max(1, |a|, |b|).
 #pragma once
 
-#include <cstdint>
-
 #include "QORKITTypes.h"
+
+#include <cstdint>
 
 namespace qorkit {
 
@@ -35,23 +47,23 @@ bool SameFloat(Extended a, Extended b) noexcept;
 // Raises EOverflow / EInvalidOp unless x is finite; returns x. The guard every routine uses.
 Extended CheckFloat(Extended x);
 
-Extended AbsXY(Extended x, Extended y);  // sqrt(x^2 + y^2) without intermediate overflow
+Extended AbsXY(Extended x, Extended y); // sqrt(x^2 + y^2) without intermediate overflow
 Extended XtoY(Extended x, Extended y);
-Extended Pow2(Extended x);               // 2^x
+Extended Pow2(Extended x); // 2^x
 Extended QORLog10(Extended x);
 Extended QORLog2(Extended x);
 Extended QORLn(Extended x);
 Extended QORExp(Extended x);
-Extended QORSqrt(Extended x);            // negative: EInvalidOp with rsSqRootNeg
+Extended QORSqrt(Extended x); // negative: EInvalidOp with rsSqRootNeg
 Extended QORMod(Extended x, Extended y);
 Extended QORRem(Extended x, Extended y);
 Extended QORDiv(Extended x, Extended y);
 Extended QORIntDiv(Extended x, Extended y);
 Extended QORFloor(Extended x);
 Extended QORCeil(Extended x);
-Extended QORSign(Extended x);            // -1, 0 or 1
-Extended Gamma(Extended x);              // poles (0, -1, -2 ...) raise EInvalidOp
-Extended LnGamma(Extended x);            // ln |Gamma(x)|
+Extended QORSign(Extended x); // -1, 0 or 1
+Extended Gamma(Extended x); // poles (0, -1, -2 ...) raise EInvalidOp
+Extended LnGamma(Extended x); // ln |Gamma(x)|
 Extended RoundDP(Extended x, std::int32_t places);
 
 // Trigonometry in radians.
@@ -59,7 +71,7 @@ Extended QORSin(Extended x);
 Extended QORCos(Extended x);
 Extended QORTan(Extended x);
 void QORSinCos(Extended x, Extended& sinValue, Extended& cosValue);
-Extended QORArcSin(Extended x);          // |x| > 1: EInvalidOp
+Extended QORArcSin(Extended x); // |x| > 1: EInvalidOp
 Extended QORArcCos(Extended x);
 Extended QORArcTan(Extended x);
 Extended QORArcTan(Extended y, Extended x); // full-circle angle of (x, y), in (-pi, pi]
@@ -79,8 +91,8 @@ Extended QORSinh(Extended x);
 Extended QORCosh(Extended x);
 Extended QORTanh(Extended x);
 Extended QORArSinh(Extended x);
-Extended QORArCosh(Extended x);          // x < 1: EInvalidOp
-Extended QORArTanh(Extended x);          // |x| >= 1: EInvalidOp
+Extended QORArCosh(Extended x); // x < 1: EInvalidOp
+Extended QORArTanh(Extended x); // |x| >= 1: EInvalidOp
 
 Extended Deg2Rad(Extended degrees);
 Extended Rad2Deg(Extended radians);
@@ -99,9 +111,11 @@ std::uint16_t ROR16(std::uint16_t value, unsigned count) noexcept;
 std::uint32_t ROR32(std::uint32_t value, unsigned count) noexcept;
 std::uint64_t ROR64(std::uint64_t value, unsigned count) noexcept;
 
-// Currency amounts times a factor, rounded to the nearest 1/10000 (halves away from zero).
-// The 32-bit forms work in cents and round to the cent. Raise EOverflow when out of range,
-// EZeroDivide on a zero divisor.
+// Currency amounts times or divided by a factor. The result is rounded to a whole number of
+// the amount's own units (1/10000 for Currency, one unit of the integer for the 32-bit forms),
+// halves to the even neighbour: the floating-point unit's default rounding, which the currency
+// conversions are defined with. Raise EOverflow when the result is out of the type's range (a
+// negative TQORLongCurrency included), EZeroDivide on a zero divisor.
 Currency MultiplyCurrencyByValue(Currency amount, Extended value);
 Currency DivideCurrencyByValue(Currency amount, Extended value);
 TQORCurrency MultiplyCurrencyByValue(TQORCurrency amount, Extended value);

@@ -118,7 +118,9 @@ private:
     std::int64_t scaled_ = 0;
 };
 
-// The base package's 32-bit currency amounts, in cents: signed and unsigned.
+// The base package's 32-bit currency amounts, signed and unsigned: whole numbers of a unit
+// the host chooses (cents, say). They carry no scale of their own; the currency edits' Scale
+// relates them to the amount shown, and arithmetic on them rounds to whole units.
 using TQORCurrency = std::int32_t;
 using TQORLongCurrency = std::uint32_t;
 
