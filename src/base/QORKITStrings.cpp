@@ -5,6 +5,7 @@
 #include "QORKITSettings.h"
 
 #include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -388,6 +389,60 @@ std::string ConvertDigits(std::string_view s, Radix from, Radix to)
     return out;
 }
 
+// ---- Angles ----------------------------------------------------------------------------------
+
+// Unit marks with the unit each one closes: 0 degrees, 1 minutes, 2 seconds.
+struct UnitMark {
+    std::string_view mark;
+    int unit;
+};
+
+// Reads one unsigned number ("12", "12.5", ".5") at `i`; the locale decimal separator and "."
+// are both accepted, since angle texts never group digits.
+bool ScanUnsigned(std::string_view s, std::size_t& i, Extended& value)
+{
+    std::string plain;
+    while (i < s.size() && IsDigit(s[i]))
+        plain += s[i++];
+    if (i < s.size() && (s[i] == FormatSettings.DecimalSeparator || s[i] == '.')) {
+        plain += '.';
+        for (++i; i < s.size() && IsDigit(s[i]); ++i)
+            plain += s[i];
+    }
+    if (plain.empty() || plain == ".")
+        return false;
+    const auto [ptr, ec] = std::from_chars(plain.data(), plain.data() + plain.size(), value);
+    return ec == std::errc() && ptr == plain.data() + plain.size() && std::isfinite(value);
+}
+
+bool StartsWithNoCase(std::string_view s, std::string_view prefix)
+{
+    if (prefix.empty() || s.size() < prefix.size())
+        return false;
+    for (std::size_t k = 0; k < prefix.size(); ++k) {
+        const auto a = static_cast<unsigned char>(s[k]);
+        const auto b = static_cast<unsigned char>(prefix[k]);
+        if (std::toupper(a) != std::toupper(b))
+            return false;
+    }
+    return true;
+}
+
+bool EndsWithNoCase(std::string_view s, std::string_view suffix)
+{
+    return s.size() >= suffix.size()
+        && StartsWithNoCase(s.substr(s.size() - suffix.size()), suffix);
+}
+
+// ---- Currency --------------------------------------------------------------------------------
+
+// Placement of symbol ($) and amount (1) for positive and negative amounts, by format number.
+constexpr std::string_view kPositiveCurrency[] = {"$1", "1$", "$ 1", "1 $"};
+constexpr std::string_view kNegativeCurrency[] = {
+    "($1)", "-$1",  "$-1",  "$1-",  "(1$)", "-1$",  "1-$",   "1$-",
+    "-1 $", "-$ 1", "1 $-", "$ 1-", "$ -1", "1- $", "($ 1)", "(1 $)",
+};
+
 } // namespace
 
 // ---- Floating point <-> text ---------------------------------------------------------------
@@ -474,6 +529,216 @@ std::string AddThousandsSeparators(std::string_view s, bool lakh)
     out += GroupDigits(s.substr(digitsStart, digitsEnd - digitsStart), lakh, thousands);
     out.append(s.substr(digitsEnd));
     return out;
+}
+
+std::string StripThousandSeparators(std::string_view s)
+{
+    return RemoveGroupSpacing(s, FormatSettings.ThousandSeparator);
+}
+
+std::string Float2Str(Extended value, int width, int decimals)
+{
+    FixedStyle style; // "." and no grouping: a program text
+    std::string text = decimals >= 0 ? JoinFixed(FixedOf(value, decimals), style)
+                                     : ScientificText(value, -decimals, '.');
+    return PadChLeftStr(text, ' ', width);
+}
+
+// ---- Angles --------------------------------------------------------------------------------
+
+std::string Float2DMSStr(Extended degrees, TQORDMSType type, std::uint8_t decimals,
+                         bool leadingZeroes, bool spaceUnits, bool trimTrailingZeroes)
+{
+    CheckFinite(degrees);
+    if (type > dmsDegreesMinutesSeconds)
+        type = dmsDegreesMinutesSeconds;
+    // Round once, in the last unit shown, then carry into the larger units: 59.9999" at two
+    // decimals becomes a whole minute, never "60.00\"".
+    static constexpr Extended kPerDegree[] = {1, 60, 3600};
+    FixedText last = FixedOf(std::fabs(degrees) * kPerDegree[type], decimals);
+    const bool negative = std::signbit(degrees)
+        && (last.integer != "0" || last.fraction.find_first_not_of('0') != std::string::npos);
+    if (trimTrailingZeroes)
+        DropTrailingZeros(last.fraction);
+    std::string lastFraction;
+    if (!last.fraction.empty())
+        lastFraction = FormatSettings.DecimalSeparator + last.fraction;
+
+    // Whole units: degrees, minutes, seconds (the ones below `type` stay unused).
+    std::string units[3];
+    if (type == dmsDegrees || last.integer.size() > 18) {
+        // Beyond 10^18 units nothing below a degree is meaningful: show whole degrees.
+        units[0] = type == dmsDegrees ? last.integer : FixedOf(std::fabs(degrees), 0).integer;
+        for (int u = 1; u <= type; ++u)
+            units[u] = "0";
+    } else {
+        std::uint64_t whole = 0;
+        std::from_chars(last.integer.data(), last.integer.data() + last.integer.size(), whole);
+        for (int u = type; u > 0; --u) {
+            units[u] = std::to_string(whole % 60);
+            whole /= 60;
+        }
+        units[0] = std::to_string(whole);
+    }
+    const std::string* marks[]
+        = {&FormatSettings.DegreeSign, &FormatSettings.MinuteSign, &FormatSettings.SecondSign};
+    std::string out = negative ? "-" : "";
+    for (int u = 0; u <= type; ++u) {
+        if (u > 0 && spaceUnits)
+            out += ' ';
+        if (u > 0 && leadingZeroes && units[u].size() < 2)
+            out += '0';
+        out += units[u];
+        if (u == type)
+            out += lastFraction;
+        out += *marks[u];
+    }
+    return out;
+}
+
+std::string Angle2Str(Extended degrees, std::uint8_t decimals)
+{
+    return Float2DMSStr(degrees, dmsDegreesMinutesSeconds, decimals, true, true, false);
+}
+
+Extended DMSStr2Float(std::string_view s)
+{
+    // Longest mark first, so that a mark which starts another one cannot steal its place.
+    UnitMark marks[] = {{FormatSettings.DegreeSign, 0},
+                        {FormatSettings.MinuteSign, 1},
+                        {FormatSettings.SecondSign, 2}};
+    std::sort(std::begin(marks), std::end(marks),
+              [](const UnitMark& a, const UnitMark& b) { return a.mark.size() > b.mark.size(); });
+    auto markAt = [&marks](std::string_view rest) -> const UnitMark* {
+        for (const auto& m : marks)
+            if (!m.mark.empty() && rest.starts_with(m.mark))
+                return &m;
+        return nullptr;
+    };
+
+    std::string_view text = TrimBlanks(s);
+    bool negative = false;
+    bool hemisphere = false;
+    // A trailing hemisphere letter, unless the text ends with a unit mark (marks may be
+    // letters too, such as "s" for seconds).
+    const bool endsWithMark = std::any_of(std::begin(marks), std::end(marks), [&](const auto& m) {
+        return !m.mark.empty() && text.ends_with(m.mark);
+    });
+    for (auto* abbr : {&rsSouthAbbr, &rsWestAbbr, &rsNorthAbbr, &rsEastAbbr}) {
+        const std::string letter = (*abbr)();
+        if (!endsWithMark && EndsWithNoCase(text, letter)) {
+            text = TrimBlanks(text.substr(0, text.size() - letter.size()));
+            negative = abbr == &rsSouthAbbr || abbr == &rsWestAbbr;
+            hemisphere = true;
+            break;
+        }
+    }
+    if (!text.empty() && (text.front() == '-' || text.front() == '+')) {
+        if (hemisphere) // "-12 S": two signs that disagree or repeat
+            ThrowConvert(rsInvalidAngle, s);
+        negative = text.front() == '-';
+        text = TrimBlanks(text.substr(1));
+    }
+
+    static constexpr Extended kPerDegree[] = {1, 60, 3600};
+    Extended total = 0;
+    int nextUnit = 0;
+    std::size_t i = 0;
+    while (i < text.size()) {
+        Extended part = 0;
+        if (nextUnit > 2 || !ScanUnsigned(text, i, part))
+            ThrowConvert(rsInvalidAngle, s);
+        const auto afterNumber = i;
+        while (i < text.size() && IsBlank(text[i]))
+            ++i;
+        int unit = nextUnit;
+        if (const auto* m = markAt(text.substr(i))) {
+            unit = m->unit;
+            i += m->mark.size();
+        } else if (i == afterNumber && i < text.size()) {
+            ThrowConvert(rsInvalidAngle, s); // numbers without marks need a blank between
+        }
+        if (unit < nextUnit) // units come in order: degrees, minutes, seconds
+            ThrowConvert(rsInvalidAngle, s);
+        total += part / kPerDegree[unit];
+        nextUnit = unit + 1;
+        while (i < text.size() && IsBlank(text[i]))
+            ++i;
+    }
+    if (nextUnit == 0 || !std::isfinite(total))
+        ThrowConvert(rsInvalidAngle, s);
+    return negative && total != 0 ? -total : total;
+}
+
+// ---- Currency ------------------------------------------------------------------------------
+
+std::string Currency2EStr(Currency value, std::uint8_t decimals)
+{
+    const std::int64_t scaled = value.Scaled();
+    const bool negative = scaled < 0;
+    const std::uint64_t magnitude
+        = negative ? 0 - static_cast<std::uint64_t>(scaled) : static_cast<std::uint64_t>(scaled);
+    // The amount is exact in decimal: magnitude / 10^4.
+    Digits d;
+    if (magnitude != 0) {
+        d.D = std::to_string(magnitude);
+        d.P = static_cast<long>(d.D.size()) - 4;
+    }
+    const FixedText parts = ToFixed(std::move(d), negative, decimals);
+    FixedStyle style;
+    style.decimal = FormatSettings.DecimalSeparator;
+    style.thousands = FormatSettings.ThousandSeparator;
+    style.group = true;
+    const bool showNegative = parts.negative;
+    FixedText unsignedParts = parts;
+    unsignedParts.negative = false;
+    const std::string amount = JoinFixed(std::move(unsignedParts), style);
+
+    std::string_view pattern;
+    if (showNegative) {
+        const auto f = FormatSettings.NegCurrFormat;
+        pattern = kNegativeCurrency[f < std::size(kNegativeCurrency) ? f : 1];
+    } else {
+        const auto f = FormatSettings.CurrencyFormat;
+        pattern = kPositiveCurrency[f < std::size(kPositiveCurrency) ? f : 0];
+    }
+    std::string out;
+    for (const char c : pattern) {
+        if (c == '$')
+            out += FormatSettings.CurrencyString;
+        else if (c == '1')
+            out += amount;
+        else
+            out += c;
+    }
+    return out;
+}
+
+std::string StripCurrencyString(std::string_view s)
+{
+    std::string text(s);
+    const std::string& symbol = FormatSettings.CurrencyString;
+    if (!symbol.empty()) {
+        for (auto pos = text.find(symbol); pos != std::string::npos; pos = text.find(symbol, pos))
+            text.erase(pos, symbol.size());
+    }
+    // What is left is the amount with its sign in one of the currency positions: in front,
+    // behind, or as parentheses. Bring it to the front.
+    std::string_view rest = TrimBlanks(text);
+    bool negative = false;
+    if (rest.size() >= 2 && rest.front() == '(' && rest.back() == ')') {
+        negative = true;
+        rest = TrimBlanks(rest.substr(1, rest.size() - 2));
+    }
+    if (!rest.empty() && rest.back() == '-') {
+        negative = true;
+        rest = TrimBlanks(rest.substr(0, rest.size() - 1));
+    }
+    if (!rest.empty() && rest.front() == '-') {
+        negative = true;
+        rest = TrimBlanks(rest.substr(1));
+    }
+    return (negative ? "-" : "") + std::string(rest);
 }
 
 // ---- Integers <-> text ---------------------------------------------------------------------
