@@ -1,0 +1,1160 @@
+#include "QORKITCalcEngine.h"
+
+#include "QORKITConstants.h"
+#include "QORKITDateTime.h"
+#include "QORKITExceptions.h"
+#include "QORKITMath.h"
+#include "QORKITResource.h"
+#include "QORKITSettings.h"
+#include "QORKITStrings.h"
+#include "QORKIT_RS_Calc.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <cmath>
+#include <new>
+
+namespace qorkit {
+
+namespace {
+
+using Engine = TQORCalcEngine;
+
+constexpr Extended PercentFactor = 0.01L;
+constexpr Extended StandardGravity = 9.80665L;
+constexpr std::size_t InitialStackLength = 10;
+constexpr std::int32_t StackGrowth = 5; // a full stack grows to top + 5: four spare slots
+
+std::string Text(const char* s) { return s; }
+
+// A binary operator: its code, tape text, result (x lower, y upper operand) and whether a
+// zero upper operand is a division by zero.
+struct BinaryOperator {
+    char Code;
+    std::string (*TapeText)();
+    Extended (*Apply)(Extended x, Extended y);
+    bool ZeroDivisor;
+};
+
+constexpr BinaryOperator BinaryOperators[] = {
+    {'+', [] { return Text("+"); }, [](Extended x, Extended y) { return x + y; }, false},
+    {'-', [] { return Text("-"); }, [](Extended x, Extended y) { return x - y; }, false},
+    {'*', [] { return Text("*"); }, [](Extended x, Extended y) { return x * y; }, false},
+    {'/', [] { return Text("/"); }, [](Extended x, Extended y) { return x / y; }, true},
+    {'^', rsXpwrYPaper, XtoY, false},
+    // The y-th root; a zero index is the reciprocal of zero.
+    {'@', rsXpwrInvYPaper, [](Extended x, Extended y) { return XtoY(x, 1.0L / y); }, true},
+    {'#', rsFPModPaper, QORMod, true},
+    {'&', rsFPRemPaper, QORRem, true},
+    {'\\', rsFPDivPaper, QORDiv, true},
+    {'|', rsFPIntDivPaper, QORIntDiv, true},
+    {'%', [] { return Text("%"); }, [](Extended x, Extended y) { return x * y * PercentFactor; },
+     false},
+};
+
+const BinaryOperator* FindBinary(char code)
+{
+    for (const auto& op : BinaryOperators)
+        if (op.Code == code)
+            return &op;
+    return nullptr;
+}
+
+constexpr std::string_view FunctionCodes = "ACDGLNQRSTUWacdfgilnqrstuw";
+
+bool IsFunctionCode(char c) { return FunctionCodes.find(c) != std::string_view::npos; }
+
+// Sign clean-up of a typed number: a second minus cancels the first.
+void CleanSigns(std::string& s)
+{
+    static constexpr std::pair<std::string_view, std::string_view> rules[]
+        = {{"--", ""}, {"-+", ""}, {"+-", "-"}};
+    for (const auto& [from, to] : rules)
+        for (auto at = s.find(from); at != std::string::npos; at = s.find(from, at))
+            s.replace(at, from.size(), to);
+}
+
+// The text of a typed number with its exponent negated: "1E5" -> "1E-5", "1E-05" -> "1E5";
+// a zero or missing exponent gives "1E-".
+std::string NegateExponent(const std::string& entry, std::size_t ePos)
+{
+    const std::string head = entry.substr(0, ePos + 1);
+    std::string_view exponent = std::string_view(entry).substr(ePos + 1);
+    bool negative = false;
+    if (!exponent.empty() && (exponent.front() == '-' || exponent.front() == '+')) {
+        negative = exponent.front() == '-';
+        exponent.remove_prefix(1);
+    }
+    if (!std::all_of(exponent.begin(), exponent.end(), [](char c) { return c >= '0' && c <= '9'; }))
+        throw EConvertError(FormatMessage(rsInvalidInteger(), entry.substr(ePos + 1)));
+    const auto first = exponent.find_first_not_of('0');
+    if (first == std::string_view::npos)
+        return head + "-";
+    const std::string digits(exponent.substr(first));
+    return negative ? head + digits : head + "-" + digits;
+}
+
+} // namespace
+
+// ---- Construction, guard and events ------------------------------------------------------
+
+TQORCalcEngine::TQORCalcEngine()
+    : operandStack_(InitialStackLength), operatorStack_(InitialStackLength)
+{
+    SetDisplayValue("0");
+    // Today's day number: the seed changes once a day, by design.
+    const auto day = static_cast<std::int64_t>(std::floor(Now()));
+    RandomSeed(static_cast<std::uint64_t>(day));
+}
+
+// Runs one operation. Only the outermost guarded operation catches: a fault anywhere inside
+// abandons the rest of the operation and leaves the engine cleared with "Error!" showing.
+template<class Body> void TQORCalcEngine::Guarded(Body&& body)
+{
+    if (guardDepth_ > 0) {
+        body();
+        return;
+    }
+    struct Depth {
+        int& depth;
+        explicit Depth(int& d) : depth(d) { ++depth; }
+        ~Depth() { --depth; }
+        Depth(const Depth&) = delete;
+        Depth& operator=(const Depth&) = delete;
+    };
+    std::string message;
+    try {
+        const Depth depth(guardDepth_);
+        body();
+        return;
+    } catch (const std::bad_alloc&) {
+        throw;
+    } catch (const std::exception& e) {
+        message = e.what();
+    }
+    HandleError(message);
+}
+
+void TQORCalcEngine::HandleError(const std::string& message)
+{
+    AllClear();
+    SetDisplayValue(rsErrorMsg());
+    lastError_ = message;
+    AddToHistory(rsPaperErrLine(), false);
+    Fire(onError_);
+    lastOperator_ = ' ';
+}
+
+void TQORCalcEngine::Fire(const TNotifyEvent& event)
+{
+    if (event)
+        event(this);
+}
+
+// ---- Entry and display ---------------------------------------------------------------------
+
+std::string TQORCalcEngine::DisplayValue(Extended Value) const
+{
+    if (!std::isfinite(Value))
+        return rsErrorMsg();
+    const Extended magnitude = std::fabs(Value);
+    const bool inFixedRange = (sciMin_ < magnitude && magnitude < sciMax_) || Value == 0;
+    std::string text;
+    if (sciUsage_ && !(sciRange_ && inFixedRange))
+        text = SciFloat2EStr(Value, decimalPlaces_);
+    else if (thousandsSeparators_)
+        text = trimTrailingZeroes_ ? Float2CEStr2(Value, decimalPlaces_, lakhFormatting_)
+                                   : Float2CEStr(Value, decimalPlaces_, lakhFormatting_);
+    else
+        text = trimTrailingZeroes_ ? Float2EStr2(Value, decimalPlaces_)
+                                   : Float2EStr(Value, decimalPlaces_);
+    // Intended: a longer number is cut on the right, there is no other length check.
+    return LeftStr(text, maxDisplayLength_);
+}
+
+void TQORCalcEngine::SetDisplayValue(const std::string& S)
+{
+    displayStr_ = thousandsSeparators_ ? AddThousandsSeparators(S, lakhFormatting_) : S;
+    Fire(onDisplayChange_);
+}
+
+Extended TQORCalcEngine::GetDisplayValue()
+{
+    if (!entryStr_.empty()) {
+        Extended value = 0;
+        if (TryStr2Float(StripThousandSeparators(entryStr_), value) && std::isfinite(value))
+            return value;
+        entryStr_.clear();
+        return 0;
+    }
+    return operandTop_ >= 0 ? operandStack_[static_cast<std::size_t>(operandTop_)] : 0;
+}
+
+Extended TQORCalcEngine::TypedValue() const
+{
+    return CheckFloat(Str2Float(StripThousandSeparators(entryStr_)));
+}
+
+void TQORCalcEngine::Numeric(char Ch)
+{
+    if (lastOperator_ == '=') {
+        ClearToggles();
+        EmptyStacks();
+        entryStr_.clear();
+        lastOperator_ = ' ';
+    }
+    if (Ch == 'E') {
+        InputNaturalConstant();
+        return;
+    }
+    // After the exponent key a sign belongs to the exponent; elsewhere it leads the number.
+    if ((Ch == '+' || Ch == '-') && lastOperator_ != 'E')
+        entryStr_.insert(entryStr_.begin(), Ch);
+    else
+        entryStr_ += Ch;
+    CleanSigns(entryStr_);
+    SetDisplayValue(entryStr_);
+    ClearToggles();
+    lastOperator_ = Ch;
+}
+
+void TQORCalcEngine::InputDigit(std::int8_t Digit)
+{
+    if (Digit < 0 || Digit > 9)
+        return;
+    if (entryStr_ == "0")
+        entryStr_.clear();
+    Numeric(static_cast<char>('0' + Digit));
+    // No leading zeros. The display is deliberately not refreshed here.
+    if (entryStr_.find(FormatSettings.DecimalSeparator) == std::string::npos
+        && GetDisplayValue() == 0)
+        entryStr_ = !entryStr_.empty() && entryStr_.front() == '-' ? "-0" : "0";
+}
+
+void TQORCalcEngine::InputDecimalSeparator()
+{
+    lastOperator_ = '.';
+    const char separator = FormatSettings.DecimalSeparator;
+    if (entryStr_.find(separator) == std::string::npos) {
+        if (entryStr_.empty())
+            entryStr_ = "0";
+        entryStr_ += separator;
+    }
+    ClearToggles();
+    SetDisplayValue(entryStr_);
+}
+
+void TQORCalcEngine::InputThousandsSeparator()
+{
+    lastOperator_ = ',';
+    if (!entryStr_.empty())
+        entryStr_ += FormatSettings.ThousandSeparator;
+    ClearToggles();
+    SetDisplayValue(entryStr_);
+}
+
+void TQORCalcEngine::InputBackspace()
+{
+    // A computed result cannot be backspaced: only typed text is.
+    if (!entryStr_.empty()) {
+        entryStr_.pop_back();
+        SetDisplayValue(entryStr_);
+    }
+    ClearToggles();
+}
+
+void TQORCalcEngine::DoExp()
+{
+    if (entryStr_.find('E') != std::string::npos)
+        return;
+    entryStr_ += 'E';
+    SetDisplayValue(entryStr_);
+    ClearToggles();
+    lastOperator_ = 'E';
+}
+
+void TQORCalcEngine::DoChangeSign()
+{
+    Guarded([&] {
+        if (!entryStr_.empty()) {
+            if (const auto ePos = entryStr_.find('E'); ePos != std::string::npos)
+                entryStr_ = NegateExponent(entryStr_, ePos);
+            else if (GetDisplayValue() == 0)
+                entryStr_ = "-"; // intended: +/- on a typed zero starts a negative entry
+            else if (entryStr_.front() == '-')
+                entryStr_.erase(0, 1);
+            else if (entryStr_.front() == '+')
+                entryStr_.front() = '-';
+            else
+                entryStr_.insert(entryStr_.begin(), '-');
+            SetDisplayValue(entryStr_);
+        } else {
+            // The negated value goes on top; the old operand stays beneath it.
+            const Extended top
+                = operandTop_ >= 0 ? operandStack_[static_cast<std::size_t>(operandTop_)] : 0;
+            ShowResult(top * -1);
+            AddToHistory("+/-", false);
+        }
+        lastOperator_ = ' ';
+    });
+}
+
+void TQORCalcEngine::ClearDisplay()
+{
+    ClearToggles();
+    lastOperator_ = ' ';
+    entryStr_.clear();
+    SetDisplayValue("0");
+}
+
+void TQORCalcEngine::AllClear()
+{
+    ClearToggles();
+    EmptyStacks();
+    entryStr_.clear();
+    SetDisplayValue("0");
+    lastError_.clear();
+    lastOperator_ = ' ';
+    ClearHistory();
+}
+
+void TQORCalcEngine::InputValue(Extended Value)
+{
+    Guarded([&] {
+        ShowResult(Value);
+        lastOperator_ = ' ';
+        AddToHistory(displayStr_, false);
+    });
+}
+
+void TQORCalcEngine::InputString(std::string_view S)
+{
+    Guarded([&] {
+        ShowResult(CheckFloat(Str2Float(S)));
+        lastOperator_ = ' ';
+    });
+}
+
+void TQORCalcEngine::UseConstant(Extended Value) { InputValue(Value); }
+
+void TQORCalcEngine::UpdateValue()
+{
+    Guarded([&] {
+        if (entryStr_.empty())
+            return;
+        const Extended value = TypedValue();
+        Push(value);
+        AddToHistory(value);
+        entryStr_.clear();
+    });
+}
+
+void TQORCalcEngine::SetDecimalPlaces(std::uint8_t Value)
+{
+    if (Value == decimalPlaces_)
+        return;
+    decimalPlaces_ = Value;
+    SetDisplayValue(DisplayValue(GetDisplayValue()));
+    Fire(onDecimalPlacesChange_);
+}
+
+void TQORCalcEngine::ClearToggles()
+{
+    if (!isInv_ && !isHyp_)
+        return;
+    isInv_ = false;
+    isHyp_ = false;
+    Fire(onClearToggles_);
+}
+
+// ---- Stacks --------------------------------------------------------------------------------
+
+void TQORCalcEngine::Push(Extended value)
+{
+    value = CheckFloat(value);
+    if (static_cast<std::int32_t>(operandStack_.size()) - 1 <= operandTop_)
+        operandStack_.resize(static_cast<std::size_t>(operandTop_ + StackGrowth));
+    operandStack_[static_cast<std::size_t>(++operandTop_)] = value;
+}
+
+void TQORCalcEngine::PushOperator(char op)
+{
+    if (static_cast<std::int32_t>(operatorStack_.size()) - 1 <= operatorTop_)
+        operatorStack_.resize(static_cast<std::size_t>(operatorTop_ + StackGrowth));
+    operatorStack_[static_cast<std::size_t>(++operatorTop_)] = op;
+}
+
+void TQORCalcEngine::PushOperandStack(Extended Value)
+{
+    Guarded([&] { Push(Value); });
+}
+
+void TQORCalcEngine::PushOperatorStack(char Op) { PushOperator(Op); }
+
+Extended TQORCalcEngine::PopOperand()
+{
+    return operandStack_[static_cast<std::size_t>(operandTop_--)];
+}
+
+void TQORCalcEngine::EmptyStacks()
+{
+    operandTop_ = -1;
+    operatorTop_ = -1;
+}
+
+void TQORCalcEngine::ShowTop()
+{
+    SetDisplayValue(operandTop_ >= 0
+                        ? DisplayValue(operandStack_[static_cast<std::size_t>(operandTop_)])
+                        : std::string("0"));
+}
+
+void TQORCalcEngine::ShowResult(Extended value)
+{
+    value = CheckFloat(value);
+    SetDisplayValue(DisplayValue(value));
+    entryStr_.clear();
+    Push(value);
+}
+
+// ---- Operators -----------------------------------------------------------------------------
+
+bool TQORCalcEngine::HigherPrecedence(char NewOp, char TopOp) const
+{
+    const bool newIsFunction = IsFunctionCode(NewOp) || (NewOp == '%' && !binaryPercent_);
+    if (TopOp == '(' || newIsFunction)
+        return true;
+    if (!precedence_)
+        return false;
+    const bool topAdditive = TopOp == '+' || TopOp == '-';
+    if (std::string_view("#&*/\\|").find(NewOp) != std::string_view::npos)
+        return topAdditive;
+    if (std::string_view("%@^").find(NewOp) != std::string_view::npos)
+        return topAdditive || TopOp == '*' || TopOp == '/';
+    return false;
+}
+
+void TQORCalcEngine::Arithmetic(char Op)
+{
+    Guarded([&] {
+        static constexpr std::string_view binarySigns = "#&(*+-/@\\^|E";
+        const bool signContext = (entryStr_.empty() && operandTop_ < 0)
+            || binarySigns.find(lastOperator_) != std::string_view::npos
+            || IsFunctionCode(lastOperator_) || (lastOperator_ == '%' && !binaryPercent_);
+        if ((Op == '+' || Op == '-') && signContext) {
+            Numeric(Op);
+            return;
+        }
+        UpdateValue();
+        while (operatorTop_ >= 0
+               && !HigherPrecedence(Op, operatorStack_[static_cast<std::size_t>(operatorTop_)]))
+            Reduce();
+        PushOperator(Op);
+        ShowTop();
+        const auto* op = FindBinary(Op);
+        AddToHistory(op ? op->TapeText() : std::string(1, Op), true);
+        ClearToggles();
+        lastOperator_ = Op;
+    });
+}
+
+void TQORCalcEngine::DoAdd() { Arithmetic('+'); }
+void TQORCalcEngine::DoSubtract() { Arithmetic('-'); }
+void TQORCalcEngine::DoMultiply() { Arithmetic('*'); }
+void TQORCalcEngine::DoDivide() { Arithmetic('/'); }
+void TQORCalcEngine::DoPower() { Arithmetic(isInv_ ? '@' : '^'); }
+void TQORCalcEngine::DoModulus() { Arithmetic('#'); }
+void TQORCalcEngine::DoRemainder() { Arithmetic('&'); }
+void TQORCalcEngine::DoDiv() { Arithmetic('\\'); }
+void TQORCalcEngine::DoIntDiv() { Arithmetic('|'); }
+
+void TQORCalcEngine::StackManipulation()
+{
+    Guarded([&] {
+        if (operatorTop_ >= 0)
+            Reduce();
+    });
+}
+
+void TQORCalcEngine::Reduce()
+{
+    const char code = operatorStack_[static_cast<std::size_t>(operatorTop_--)];
+    if (code == '%' && !binaryPercent_) {
+        UnaryPercentReduce();
+        return;
+    }
+    if (const auto* op = FindBinary(code)) {
+        if (operandTop_ < 1)
+            throw EMathError(rsInvalidEquation());
+        const Extended y = PopOperand();
+        const Extended x = operandStack_[static_cast<std::size_t>(operandTop_)];
+        if (op->ZeroDivisor && y == 0)
+            throw EZeroDivide(rsDivideByZero());
+        operandStack_[static_cast<std::size_t>(operandTop_)] = CheckFloat(op->Apply(x, y));
+        return;
+    }
+    if (IsFunctionCode(code))
+        ApplyFunction(code);
+    // '(' and unknown codes are simply dropped.
+}
+
+// A percent code on the stack while percent is unary: the top operand becomes that percentage
+// of the operand beneath it.
+void TQORCalcEngine::UnaryPercentReduce()
+{
+    if (operandTop_ < 0)
+        throw EMathError(rsInvalidEquation());
+    auto& top = operandStack_[static_cast<std::size_t>(operandTop_)];
+    top = operandTop_ >= 1
+        ? CheckFloat(top * operandStack_[static_cast<std::size_t>(operandTop_ - 1)] * PercentFactor)
+        : 0;
+}
+
+void TQORCalcEngine::ReduceUntil(bool (*stop)(char top))
+{
+    while (operatorTop_ >= 0 && !stop(operatorStack_[static_cast<std::size_t>(operatorTop_)]))
+        Reduce();
+}
+
+void TQORCalcEngine::InputLeftBracket()
+{
+    Guarded([&] {
+        // A lone minus before a bracket negates the bracket: -1 * ( ...
+        if (entryStr_ == "-") {
+            InputDigit(1);
+            DoMultiply();
+        }
+        entryStr_.clear();
+        PushOperator('(');
+        ShowTop();
+        AddToHistory("(", true);
+        lastOperator_ = '(';
+    });
+}
+
+void TQORCalcEngine::InputRightBracket()
+{
+    Guarded([&] {
+        UpdateValue();
+        ReduceUntil([](char top) { return top == '('; });
+        if (operatorTop_ >= 0) // an unmatched ')' is accepted silently
+            --operatorTop_;
+        ShowTop();
+        AddToHistory(")", false);
+        lastOperator_ = ')';
+    });
+}
+
+void TQORCalcEngine::DoResult()
+{
+    Guarded([&] {
+        UpdateValue();
+        ReduceUntil([](char) { return false; }); // unclosed brackets are dropped
+        // Left-over operands are discarded on purpose: the last one is the result.
+        if (operandTop_ > 0) {
+            operandStack_[0] = operandStack_[static_cast<std::size_t>(operandTop_)];
+            operandTop_ = 0;
+        }
+        if (operandTop_ >= 0)
+            ShowTop();
+        else if (displayStr_ != rsErrorMsg())
+            SetDisplayValue("0");
+        ClearToggles();
+    });
+}
+
+void TQORCalcEngine::DoEquals()
+{
+    Guarded([&] {
+        DoResult();
+        AddToHistory("=", true);
+        AddToHistory(displayStr_, false);
+        // The result stays on the stack; a second "=" shows it again (no repeated operation).
+        lastOperator_ = '=';
+    });
+}
+
+void TQORCalcEngine::DoPercent()
+{
+    Guarded([&] {
+        if (binaryPercent_) {
+            Arithmetic('%');
+            ClearToggles();
+            lastOperator_ = ' ';
+            return;
+        }
+        const auto operand = [this](std::int32_t below) {
+            return operandStack_[static_cast<std::size_t>(operandTop_ - below)];
+        };
+        Extended result = 0;
+        if (!entryStr_.empty()) {
+            const Extended percent = TypedValue();
+            if (operatorSameLine_) {
+                AddToHistory(entryStr_ + "%", false);
+            } else {
+                AddToHistory(entryStr_, false);
+                AddToHistory("%", false);
+            }
+            if (operandTop_ >= 0)
+                result = operand(0) * percent * PercentFactor;
+        } else {
+            if (operandTop_ >= 1)
+                result = operand(0) * operand(1) * PercentFactor;
+            AddToHistory("%", false);
+        }
+        ShowResult(result);
+        ClearToggles();
+        lastOperator_ = ' ';
+    });
+}
+
+// ---- Functions -----------------------------------------------------------------------------
+
+namespace {
+
+// A function code: the toggles it stands for, its computation and its tape label.
+struct FunctionCode {
+    char Code;
+    bool Inv;
+    bool Hyp;
+    Extended (TQORCalcEngine::*Compute)(Extended);
+    std::string (*Label)();
+};
+
+constexpr FunctionCode FunctionTable[] = {
+    {'S', false, false, &Engine::ComputeSin, rsSinPaper},
+    {'s', true, false, &Engine::ComputeSin, rsArcsinPaper},
+    {'R', false, true, &Engine::ComputeSin, rsSinhPaper},
+    {'r', true, true, &Engine::ComputeSin, rsArsinhPaper},
+    {'C', false, false, &Engine::ComputeCos, rsCosPaper},
+    {'c', true, false, &Engine::ComputeCos, rsArccosPaper},
+    {'D', false, true, &Engine::ComputeCos, rsCoshPaper},
+    {'d', true, true, &Engine::ComputeCos, rsArcoshPaper},
+    {'T', false, false, &Engine::ComputeTan, rsTanPaper},
+    {'t', true, false, &Engine::ComputeTan, rsArctanPaper},
+    {'U', false, true, &Engine::ComputeTan, rsTanhPaper},
+    {'u', true, true, &Engine::ComputeTan, rsArtanhPaper},
+    {'L', false, false, &Engine::ComputeLog, rsLogPaper},
+    {'l', true, false, &Engine::ComputeLog, rs10toXPaper},
+    {'N', false, false, &Engine::ComputeLn, rsLnPaper},
+    {'n', true, false, &Engine::ComputeLn, rsEtoXPaper},
+    {'W', false, false, &Engine::ComputeLog2, rsLog2Paper},
+    {'w', true, false, &Engine::ComputeLog2, rsInvLog2Paper},
+    {'Q', false, false, &Engine::ComputeSqrt, rsSqrtPaper},
+    {'q', false, false, &Engine::ComputeSqr, rsSquarePaper},
+    {'a', false, false, &Engine::ComputeAbs, rsAbsPaper},
+    {'f', false, false, &Engine::ComputeFloor, rsFloorPaper},
+    {'i', false, false, &Engine::ComputeCeiling, rsCeilingPaper},
+    {'g', false, false, &Engine::ComputeSign, rsSignPaper},
+    {'G', false, false, &Engine::ComputeGamma, rsGammaPaper},
+    {'A', false, false, &Engine::ComputeLnGamma, rsLnGammaPaper},
+};
+
+const FunctionCode& FindFunction(char code)
+{
+    for (const auto& f : FunctionTable)
+        if (f.Code == code)
+            return f;
+    return FunctionTable[0]; // not reached: every code the engine issues is listed
+}
+
+// The codes a function key issues for the toggle states none, Inv, Hyp, Inv+Hyp.
+constexpr std::string_view SinKey = "SsRr";
+constexpr std::string_view CosKey = "CcDd";
+constexpr std::string_view TanKey = "TtUu";
+constexpr std::string_view LogKey = "LlLl";
+constexpr std::string_view LnKey = "NnNn";
+constexpr std::string_view Lg2Key = "WwWw";
+
+const FunctionCode& FunctionFor(std::string_view codes, bool inv, bool hyp)
+{
+    return FindFunction(codes[static_cast<std::size_t>((inv ? 1 : 0) + (hyp ? 2 : 0))]);
+}
+
+} // namespace
+
+Extended TQORCalcEngine::PostfixArgument()
+{
+    if (!entryStr_.empty()) {
+        const Extended value = TypedValue();
+        AddToHistory(value);
+        return value;
+    }
+    return operandTop_ >= 0 ? operandStack_[static_cast<std::size_t>(operandTop_)] : 0;
+}
+
+void TQORCalcEngine::FunctionKeyPressed(std::string_view codes)
+{
+    Guarded([&] {
+        const auto& function = FunctionFor(codes, isInv_, isHyp_);
+        if (prefixFunctions_) {
+            // Applied when the argument is complete (next operator, ')' or '=').
+            entryStr_.clear();
+            PushOperator(function.Code);
+            AddToHistory(function.Label(), false);
+            ShowTop();
+        } else {
+            const Extended argument = PostfixArgument();
+            AddToHistory(function.Label(), false);
+            // Intended: the result goes on top of the old operand instead of replacing it.
+            ShowResult((this->*function.Compute)(argument));
+        }
+        lastOperator_ = ' ';
+    });
+}
+
+void TQORCalcEngine::ApplyFunction(char code)
+{
+    if (operandTop_ < 0)
+        throw EMathError(rsInvalidEquation());
+    const auto& function = FindFunction(code);
+    isInv_ = function.Inv;
+    isHyp_ = function.Hyp;
+    auto& top = operandStack_[static_cast<std::size_t>(operandTop_)];
+    top = (this->*function.Compute)(top);
+}
+
+void TQORCalcEngine::DoSin() { FunctionKeyPressed(SinKey); }
+void TQORCalcEngine::DoCos() { FunctionKeyPressed(CosKey); }
+void TQORCalcEngine::DoTan() { FunctionKeyPressed(TanKey); }
+void TQORCalcEngine::DoLog() { FunctionKeyPressed(LogKey); }
+void TQORCalcEngine::DoLN() { FunctionKeyPressed(LnKey); }
+void TQORCalcEngine::DoLg2() { FunctionKeyPressed(Lg2Key); }
+void TQORCalcEngine::DoSqRoot() { FunctionKeyPressed("QqQq"); }
+void TQORCalcEngine::DoAbs() { FunctionKeyPressed("aaaa"); }
+void TQORCalcEngine::DoFloor() { FunctionKeyPressed("ffff"); }
+void TQORCalcEngine::DoCeiling() { FunctionKeyPressed("iiii"); }
+void TQORCalcEngine::DoSign() { FunctionKeyPressed("gggg"); }
+void TQORCalcEngine::DoGamma() { FunctionKeyPressed("GGGG"); }
+void TQORCalcEngine::DoLnGamma() { FunctionKeyPressed("AAAA"); }
+
+void TQORCalcEngine::DoSquare()
+{
+    if (isInv_) { // the inverse of squaring is the square root
+        ClearToggles();
+        DoSqRoot();
+        return;
+    }
+    FunctionKeyPressed("qqqq");
+}
+
+void TQORCalcEngine::DoInvert()
+{
+    Guarded([&] {
+        if (entryStr_.empty() && operandTop_ < 0)
+            throw EZeroDivide(rsDivideByZero());
+        const Extended argument = PostfixArgument();
+        AddToHistory(rsInvertPaper(), false);
+        if (argument == 0)
+            throw EZeroDivide(rsDivideByZero());
+        ShowResult(1.0L / argument);
+        ClearToggles();
+        lastOperator_ = ' ';
+    });
+}
+
+void TQORCalcEngine::DoRound(std::int32_t Places)
+{
+    Guarded([&] {
+        ClearToggles();
+        ShowResult(RoundDP(PostfixArgument(), Places));
+        AddToHistory(Places == 0 ? rsRoundPaper() : rsRoundPaper() + " " + std::to_string(Places),
+                     false);
+        lastOperator_ = ' ';
+    });
+}
+
+void TQORCalcEngine::Report(std::string_view codes)
+{
+    AddToHistory(FunctionFor(codes, isInv_, isHyp_).Label(), false);
+}
+
+void TQORCalcEngine::ReportSin() { Report(SinKey); }
+void TQORCalcEngine::ReportCos() { Report(CosKey); }
+void TQORCalcEngine::ReportTan() { Report(TanKey); }
+void TQORCalcEngine::ReportLog() { Report(LogKey); }
+void TQORCalcEngine::ReportLn() { Report(LnKey); }
+void TQORCalcEngine::ReportLog2() { Report(Lg2Key); }
+
+// ---- Compute routines ----------------------------------------------------------------------
+
+namespace {
+
+// The four functions behind one trigonometric key.
+struct TrigFamily {
+    Extended (*Direct)(Extended);
+    Extended (*Inverse)(Extended);
+    Extended (*Hyperbolic)(Extended);
+    Extended (*InverseHyperbolic)(Extended);
+};
+
+constexpr TrigFamily SinFamily {QORSin, QORArcSin, QORSinh, QORArSinh};
+constexpr TrigFamily CosFamily {QORCos, QORArcCos, QORCosh, QORArCosh};
+constexpr TrigFamily TanFamily {QORTan, QORArcTan, QORTanh, QORArTanh};
+
+Extended ToRadians(TQORAngleMode mode, Extended x)
+{
+    switch (mode) {
+    case amRadians:
+        return x;
+    case amGradians:
+        return Grad2Rad(x);
+    default:
+        return x * OneDegree;
+    }
+}
+
+Extended FromRadians(TQORAngleMode mode, Extended x)
+{
+    switch (mode) {
+    case amRadians:
+        return x;
+    case amGradians:
+        return Rad2Grad(x);
+    default:
+        return x * OneRadian;
+    }
+}
+
+// Hyperbolic functions take no angle conversion; the others work in the angle mode.
+Extended Trig(const TrigFamily& f, Extended x, bool inv, bool hyp, TQORAngleMode mode)
+{
+    if (hyp)
+        return inv ? f.InverseHyperbolic(x) : f.Hyperbolic(x);
+    return inv ? FromRadians(mode, f.Inverse(x)) : f.Direct(ToRadians(mode, x));
+}
+
+Extended SquareRoot(Extended x)
+{
+    if (x < 0)
+        throw EInvalidOp(rsSqRootNeg());
+    return QORSqrt(x);
+}
+
+} // namespace
+
+Extended TQORCalcEngine::Finish(Extended result)
+{
+    ClearToggles();
+    return CheckFloat(result);
+}
+
+Extended TQORCalcEngine::ComputeSin(Extended X)
+{
+    return Finish(Trig(SinFamily, X, isInv_, isHyp_, angleMode_));
+}
+Extended TQORCalcEngine::ComputeCos(Extended X)
+{
+    return Finish(Trig(CosFamily, X, isInv_, isHyp_, angleMode_));
+}
+Extended TQORCalcEngine::ComputeTan(Extended X)
+{
+    return Finish(Trig(TanFamily, X, isInv_, isHyp_, angleMode_));
+}
+Extended TQORCalcEngine::ComputeLog(Extended X)
+{
+    return Finish(isInv_ ? XtoY(10, X) : QORLog10(X));
+}
+Extended TQORCalcEngine::ComputeLn(Extended X) { return Finish(isInv_ ? QORExp(X) : QORLn(X)); }
+Extended TQORCalcEngine::ComputeLog2(Extended X) { return Finish(isInv_ ? Pow2(X) : QORLog2(X)); }
+Extended TQORCalcEngine::ComputeSqrt(Extended X) { return Finish(isInv_ ? X * X : SquareRoot(X)); }
+Extended TQORCalcEngine::ComputeSqr(Extended X) { return Finish(X * X); }
+Extended TQORCalcEngine::ComputeAbs(Extended X) { return Finish(std::fabs(X)); }
+Extended TQORCalcEngine::ComputeFloor(Extended X) { return Finish(QORFloor(X)); }
+Extended TQORCalcEngine::ComputeCeiling(Extended X) { return Finish(QORCeil(X)); }
+Extended TQORCalcEngine::ComputeSign(Extended X) { return Finish(QORSign(X)); }
+Extended TQORCalcEngine::ComputeGamma(Extended X) { return Finish(Gamma(X)); }
+Extended TQORCalcEngine::ComputeLnGamma(Extended X) { return Finish(LnGamma(X)); }
+
+// ---- Constants, toggles and angle mode -----------------------------------------------------
+
+void TQORCalcEngine::InputPi() { UseConstant(QORPi); }
+void TQORCalcEngine::InputNaturalConstant() { UseConstant(QORe); }
+void TQORCalcEngine::InputGamma() { UseConstant(QORGamma); }
+void TQORCalcEngine::InputGoldenRatio() { UseConstant(GoldenRatio); }
+void TQORCalcEngine::InputSpeedOfLight() { UseConstant(SpeedOfLight); }
+void TQORCalcEngine::InputGravity() { UseConstant(StandardGravity); }
+
+void TQORCalcEngine::InputRandom()
+{
+    const auto ticks = std::chrono::system_clock::now().time_since_epoch().count();
+    RandomSeed(static_cast<std::uint64_t>(ticks));
+    UseConstant(RandomExtended());
+}
+
+void TQORCalcEngine::DoInv()
+{
+    isInv_ = !isInv_;
+    Fire(isInv_ ? onSetToggles_ : onClearToggles_);
+}
+
+void TQORCalcEngine::DoHyp()
+{
+    isHyp_ = !isHyp_;
+    Fire(isHyp_ ? onSetToggles_ : onClearToggles_);
+}
+
+void TQORCalcEngine::SetAngleMode(TQORAngleMode Value)
+{
+    if (Value == angleMode_)
+        return;
+    angleMode_ = Value;
+    Fire(onAngleModeChange_);
+}
+
+void TQORCalcEngine::ToggleAngleMode()
+{
+    switch (angleMode_) {
+    case amRadians:
+        angleMode_ = enableGrads_ ? amGradians : amDegrees;
+        break;
+    case amGradians:
+        angleMode_ = amDegrees;
+        break;
+    default:
+        angleMode_ = amRadians;
+        break;
+    }
+    AddToHistory(GetAngleModeStr(), false);
+    Fire(onAngleModeChange_);
+}
+
+std::string TQORCalcEngine::GetAngleModeStr() const
+{
+    switch (angleMode_) {
+    case amRadians:
+        return rsRadAbbrev();
+    case amGradians:
+        return rsGraAbbrev();
+    default:
+        return rsDegAbbrev();
+    }
+}
+
+// ---- Memory --------------------------------------------------------------------------------
+
+void TQORCalcEngine::MemoryLine()
+{
+    if (memoryHistory_)
+        AddToHistory("[" + rsMemoryHistoryPrefix() + DisplayValue(memory_) + " ]", false);
+}
+
+void TQORCalcEngine::MemoryStep(int sign, const std::string& label)
+{
+    Guarded([&] {
+        DoResult(); // the pending calculation is completed first
+        Extended operand = 0;
+        if (!entryStr_.empty()) {
+            operand = TypedValue();
+            AddToHistory(operand);
+        } else if (operandTop_ >= 0) {
+            operand = operandStack_[static_cast<std::size_t>(operandTop_)];
+        }
+        memory_ = CheckFloat(memory_ + static_cast<Extended>(sign) * operand);
+        ClearToggles();
+        AddToHistory(label, false);
+        MemoryLine();
+        Fire(onMemoryChange_);
+    });
+}
+
+void TQORCalcEngine::MemoryAdd() { MemoryStep(1, rsMemAddPaper()); }
+void TQORCalcEngine::MemorySubtract() { MemoryStep(-1, rsMemSubPaper()); }
+
+void TQORCalcEngine::MemoryClear()
+{
+    memory_ = 0;
+    ClearToggles();
+    AddToHistory(rsMemClrPaper(), false);
+    MemoryLine();
+    Fire(onMemoryChange_);
+}
+
+void TQORCalcEngine::MemoryRecall()
+{
+    Guarded([&] {
+        ShowResult(memory_);
+        ClearToggles();
+        AddToHistory(rsMemRecPaper(), false);
+        MemoryLine();
+        lastOperator_ = ' ';
+    });
+}
+
+void TQORCalcEngine::SetMemory(Extended Value)
+{
+    Guarded([&] {
+        memory_ = CheckFloat(Value);
+        Fire(onMemoryChange_);
+    });
+}
+
+// ---- Paper tape ----------------------------------------------------------------------------
+
+void TQORCalcEngine::AddToHistory(const std::string& S, bool SameLine)
+{
+    if (SameLine && operatorSameLine_) {
+        pendingOperatorText_ = S;
+        return;
+    }
+    if (pendingOperatorText_.empty()) {
+        history_.push_back(S);
+    } else {
+        history_.push_back(pendingOperatorText_ + " " + S);
+        pendingOperatorText_.clear();
+    }
+    Fire(onHistoryChange_);
+}
+
+void TQORCalcEngine::AddToHistory(Extended Value) { AddToHistory(DisplayValue(Value), false); }
+
+void TQORCalcEngine::PaperLine() { AddToHistory(rsPaperLine(), false); }
+
+void TQORCalcEngine::ClearHistory()
+{
+    history_.clear();
+    historyPosition_ = -1;
+    pendingOperatorText_.clear();
+}
+
+void TQORCalcEngine::HistoryStart() { historyPosition_ = -1; }
+
+std::string TQORCalcEngine::GetNextHistoryEntry()
+{
+    const std::int32_t next = std::max(historyPosition_, -1) + 1;
+    if (next >= GetHistoryLength())
+        return {};
+    historyPosition_ = next;
+    return history_[static_cast<std::size_t>(next)];
+}
+
+std::string TQORCalcEngine::GetHistoryEntry(std::uint16_t Index) const
+{
+    return Index < history_.size() ? history_[Index] : std::string();
+}
+
+std::string TQORCalcEngine::GetLastHistoryEntry() const
+{
+    return history_.empty() ? std::string() : history_.back();
+}
+
+std::int32_t TQORCalcEngine::GetHistoryLength() const noexcept
+{
+    return static_cast<std::int32_t>(history_.size());
+}
+
+// ---- Named keys ----------------------------------------------------------------------------
+
+namespace {
+
+#define QORKIT_KEY(name, text, call)                                                               \
+    {                                                                                              \
+        name, text, [](TQORCalcEngine& e) { e.call; }                                              \
+    }
+
+constexpr TQORCalcKey KeyTable[] = {
+    QORKIT_KEY("0", "digit 0", InputDigit(0)),
+    QORKIT_KEY("1", "digit 1", InputDigit(1)),
+    QORKIT_KEY("2", "digit 2", InputDigit(2)),
+    QORKIT_KEY("3", "digit 3", InputDigit(3)),
+    QORKIT_KEY("4", "digit 4", InputDigit(4)),
+    QORKIT_KEY("5", "digit 5", InputDigit(5)),
+    QORKIT_KEY("6", "digit 6", InputDigit(6)),
+    QORKIT_KEY("7", "digit 7", InputDigit(7)),
+    QORKIT_KEY("8", "digit 8", InputDigit(8)),
+    QORKIT_KEY("9", "digit 9", InputDigit(9)),
+    QORKIT_KEY(".", "decimal separator", InputDecimalSeparator()),
+    QORKIT_KEY(",", "thousands separator", InputThousandsSeparator()),
+    QORKIT_KEY("ee", "exponent of the typed number", DoExp()),
+    QORKIT_KEY("+/-", "change sign", DoChangeSign()),
+    QORKIT_KEY("bs", "backspace", InputBackspace()),
+    QORKIT_KEY("c", "clear the display", ClearDisplay()),
+    QORKIT_KEY("ac", "all clear", AllClear()),
+    QORKIT_KEY("+", "add", DoAdd()),
+    QORKIT_KEY("-", "subtract (or a sign)", DoSubtract()),
+    QORKIT_KEY("*", "multiply", DoMultiply()),
+    QORKIT_KEY("/", "divide", DoDivide()),
+    QORKIT_KEY("^", "x to the y (with inv: y-th root)", DoPower()),
+    QORKIT_KEY("mod", "floored modulus", DoModulus()),
+    QORKIT_KEY("rem", "truncated remainder", DoRemainder()),
+    QORKIT_KEY("div", "floored division", DoDiv()),
+    QORKIT_KEY("intdiv", "truncated division", DoIntDiv()),
+    QORKIT_KEY("%", "percent", DoPercent()),
+    QORKIT_KEY("(", "left bracket", InputLeftBracket()),
+    QORKIT_KEY(")", "right bracket", InputRightBracket()),
+    QORKIT_KEY("=", "equals", DoEquals()),
+    QORKIT_KEY("result", "complete the calculation without a tape line", DoResult()),
+    QORKIT_KEY("inv", "inverse toggle", DoInv()),
+    QORKIT_KEY("hyp", "hyperbolic toggle", DoHyp()),
+    QORKIT_KEY("sin", "sine", DoSin()),
+    QORKIT_KEY("cos", "cosine", DoCos()),
+    QORKIT_KEY("tan", "tangent", DoTan()),
+    QORKIT_KEY("log", "common logarithm (inv: 10^x)", DoLog()),
+    QORKIT_KEY("ln", "natural logarithm (inv: e^x)", DoLN()),
+    QORKIT_KEY("lg2", "binary logarithm (inv: 2^x)", DoLg2()),
+    QORKIT_KEY("sqrt", "square root (inv: square)", DoSqRoot()),
+    QORKIT_KEY("sqr", "square (inv: square root)", DoSquare()),
+    QORKIT_KEY("abs", "absolute value", DoAbs()),
+    QORKIT_KEY("floor", "floor", DoFloor()),
+    QORKIT_KEY("ceil", "ceiling", DoCeiling()),
+    QORKIT_KEY("sign", "sign (-1, 0, 1)", DoSign()),
+    QORKIT_KEY("gamma", "gamma function", DoGamma()),
+    QORKIT_KEY("lngamma", "ln |gamma|", DoLnGamma()),
+    QORKIT_KEY("1/x", "reciprocal", DoInvert()),
+    QORKIT_KEY("round", "round to an integer (roundN: N decimals)", DoRound(0)),
+    QORKIT_KEY("pi", "pi", InputPi()),
+    QORKIT_KEY("e", "Euler's number e", InputNaturalConstant()),
+    QORKIT_KEY("euler", "Euler's constant 0.5772...", InputGamma()),
+    QORKIT_KEY("phi", "golden ratio", InputGoldenRatio()),
+    QORKIT_KEY("light", "speed of light (m/s)", InputSpeedOfLight()),
+    QORKIT_KEY("g", "standard gravity (m/s2)", InputGravity()),
+    QORKIT_KEY("rnd", "random value in [0, 1)", InputRandom()),
+    QORKIT_KEY("drg", "next angle mode", ToggleAngleMode()),
+    QORKIT_KEY("deg", "degrees", SetAngleMode(amDegrees)),
+    QORKIT_KEY("rad", "radians", SetAngleMode(amRadians)),
+    QORKIT_KEY("grad", "gradians", SetAngleMode(amGradians)),
+    QORKIT_KEY("m+", "add to memory", MemoryAdd()),
+    QORKIT_KEY("m-", "subtract from memory", MemorySubtract()),
+    QORKIT_KEY("mc", "clear memory", MemoryClear()),
+    QORKIT_KEY("mr", "recall memory", MemoryRecall()),
+    QORKIT_KEY("paper", "separator line on the tape", PaperLine()),
+};
+#undef QORKIT_KEY
+
+const TQORCalcKey* FindKey(std::string_view name)
+{
+    for (const auto& key : KeyTable)
+        if (key.Name == name)
+            return &key;
+    return nullptr;
+}
+
+bool AllOf(std::string_view s, std::string_view allowed)
+{
+    return !s.empty() && s.find_first_not_of(allowed) == std::string_view::npos;
+}
+
+} // namespace
+
+std::span<const TQORCalcKey> CalcEngineKeys() { return KeyTable; }
+
+bool PressCalcKey(TQORCalcEngine& engine, std::string_view name)
+{
+    if (const auto* key = FindKey(name)) {
+        key->Press(engine);
+        return true;
+    }
+    if (name.starts_with("round") && AllOf(name.substr(5), "0123456789") && name.size() <= 7) {
+        engine.DoRound(std::stoi(std::string(name.substr(5))));
+        return true;
+    }
+    // A number: each character is its own key.
+    if (!AllOf(name, "0123456789.,"))
+        return false;
+    for (const char c : name)
+        FindKey(std::string_view(&c, 1))->Press(engine);
+    return true;
+}
+
+} // namespace qorkit
