@@ -29,9 +29,10 @@ inline constexpr Extended AstroUnit = 149597870700.0L;
 // Parsec: one astronomical unit subtending one second of arc, IAU 2015 Resolution B2 (m):
 // AU * 648000 / pi.
 inline constexpr Extended Parsec = AstroUnit * 648000.0L / QORPi;
-// Light year: Julian year (365.25 days of 86400 s) of light travel, IAU (m).
+// Light year: light travel in a Julian year (365.25 days of 86400 s), IAU Style Manual (m).
 inline constexpr Extended LightYear = SpeedOfLight * 365.25L * 86400.0L;
-// Light travel in a 365-day year (m).
+// Light travel in a 365-day year, and in a day, hour, minute, second, millisecond and
+// microsecond (m).
 inline constexpr Extended LightYear365 = SpeedOfLight * 365.0L * 86400.0L;
 inline constexpr Extended LightDay = SpeedOfLight * 86400.0L;
 inline constexpr Extended LightHour = SpeedOfLight * 3600.0L;
@@ -39,14 +40,15 @@ inline constexpr Extended LightMinute = SpeedOfLight * 60.0L;
 inline constexpr Extended LightSecond = SpeedOfLight;
 inline constexpr Extended LightMillisecond = SpeedOfLight / 1000.0L;
 inline constexpr Extended LightMicrosecond = SpeedOfLight / 1000000.0L;
-// Planck length, CODATA 2018 (m).
+// Planck length, CODATA 2018 recommended value (m).
 inline constexpr Extended PlanckLength = 1.616255e-35L;
 // Elementary charge, exact in the 2019 SI (C).
 inline constexpr Extended ElemCharge = 1.602176634e-19L;
 // Avogadro constant, exact in the 2019 SI (1/mol).
 inline constexpr Extended Avogadro = 6.02214076e23L;
-// Speed of sound in dry air at 15 degrees C at sea level, ISA / NIST (m/s).
-inline constexpr Extended MachOne = 340.29L;
+// Speed of sound in dry air at sea level (15 degrees C) in the ICAO Standard Atmosphere,
+// Doc 7488: sqrt(1.4 * 287.05287 J/(kg K) * 288.15 K), tabulated as 340.294 (m/s).
+inline constexpr Extended MachOne = 340.294L;
 // Absolute zero in degrees Celsius and Fahrenheit (exact by definition).
 inline constexpr Extended AbsoluteZeroC = -273.15L;
 inline constexpr Extended AbsoluteZeroF = -459.67L;
@@ -64,9 +66,10 @@ inline constexpr Extended OneCalorie = 4.1868L;
 inline constexpr Extended OneBecquerel = 1.0L;
 
 // ---- The sun, for rising and setting (degrees) -------------------------------------------------
-// Atmospheric refraction at the horizon, 34 minutes of arc (Explanatory Supplement).
+// Atmospheric refraction at the horizon, 34 minutes of arc (Explanatory Supplement to the
+// Astronomical Almanac).
 inline constexpr Extended Sun_Refraction = 34.0L / 60.0L;
-// Horizontal parallax of the sun, 8.794 seconds of arc (IAU 1976).
-inline constexpr Extended Sun_Parallax = 8.794L / 3600.0L;
+// Horizontal parallax of the sun, 8.794148 seconds of arc (IAU 1976 system of constants).
+inline constexpr Extended Sun_Parallax = 8.794148L / 3600.0L;
 
 } // namespace qorkit
