@@ -3,6 +3,7 @@
 #include "QORKITSettings.h"
 #include "QORKITStrings.h"
 #include "QorkitTestSupport.h"
+#include "TextTestSupport.h"
 
 #include <gtest/gtest.h>
 
@@ -16,18 +17,8 @@ namespace {
 
 using test::CommaDecimals;
 using test::GlobalStateTest;
-
-std::string SwapMarks(std::string s)
-{
-    for (char& c : s)
-        c = c == '.' ? ',' : c == ',' ? '.' : c;
-    return s;
-}
-
-template<class Row> std::string RowName(const testing::TestParamInfo<Row>& info)
-{
-    return info.param.name;
-}
+using test::RowName;
+using test::SwapMarks;
 
 // 5 degrees 5 minutes 3 seconds, worked by hand.
 constexpr Extended k5d5m3s = 5.0L + 5.0L / 60 + 3.0L / 3600;

@@ -5,6 +5,7 @@
 #include "QORKITSettings.h"
 #include "QORKITStrings.h"
 #include "QorkitTestSupport.h"
+#include "TextTestSupport.h"
 
 #include <gtest/gtest.h>
 
@@ -21,19 +22,8 @@ namespace {
 
 using test::CommaDecimals;
 using test::GlobalStateTest;
-
-// "1,234.5" <-> "1.234,5"
-std::string SwapMarks(std::string s)
-{
-    for (char& c : s)
-        c = c == '.' ? ',' : c == ',' ? '.' : c;
-    return s;
-}
-
-template<class Row> std::string RowName(const testing::TestParamInfo<Row>& info)
-{
-    return info.param.name;
-}
+using test::RowName;
+using test::SwapMarks;
 
 // ---- Fixed notation ------------------------------------------------------------------------
 
