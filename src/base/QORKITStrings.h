@@ -44,15 +44,18 @@ std::string Float2CEStr2(Extended value, std::uint8_t decimals, bool lakh = fals
 std::string SciFloat2EStr(Extended value, std::uint8_t decimals);
 
 // Inserts the locale thousands separator into the integer digits of a number text (after an
-// optional sign, up to the decimal separator or exponent). Text that already carries a
-// separator, or is not a number (such as "Error!"), is returned unchanged.
+// optional sign, up to the decimal separator or exponent). Every state of a typed entry is a
+// number here ("-", "0.", "1E", "12345E-"). Text that already carries a separator, or is not
+// a number (such as "Error!"), is returned unchanged.
 std::string AddThousandsSeparators(std::string_view s, bool lakh = false);
 // Removes every locale thousands separator.
 std::string StripThousandSeparators(std::string_view s);
 
 // Right-aligned fixed notation in a field of at least `width` characters with `decimals`
 // decimals, "." as the decimal point (a program text, not a display text):
-// Float2Str(3.14159, 10, 2) == "      3.14". A negative `decimals` gives scientific notation.
+// Float2Str(3.14159, 10, 2) == "      3.14". A negative `decimals` gives scientific notation
+// with -decimals mantissa decimals: Float2Str(12345, 12, -3) == "   1.235E+04". A text longer
+// than `width` is never cut.
 std::string Float2Str(Extended value, int width, int decimals);
 
 // ---- Integers <-> text ---------------------------------------------------------------------
@@ -91,25 +94,36 @@ std::string RemoveGroupSpacing(std::string_view s, char sep);
 // ---- Angles --------------------------------------------------------------------------------
 
 // Degrees as degrees, minutes and seconds with the process-wide marks, seconds with
-// `decimals` decimals: Angle2Str(12.5125, 0) == "12° 30' 45\"". Negative angles carry a
-// leading minus.
+// `decimals` decimals, minutes and seconds two digits wide, units separated by a blank:
+// Angle2Str(12.5125, 0) == "12° 30' 45\"", Angle2Str(5.0841667, 0) == "5° 05' 03\"".
+// Negative angles carry a leading minus.
 std::string Angle2Str(Extended degrees, std::uint8_t decimals);
 // Degrees as text of the chosen units (dmsDegrees "12.51°", dmsDegreesMinutes "12° 30.75'",
 // dmsDegreesMinutesSeconds "12° 30' 45\""), the last unit with `decimals` decimals;
 // `leadingZeroes` pads minutes and seconds to two digits, `spaceUnits` puts a blank between
-// units, `trimTrailingZeroes` drops zero decimals of the last unit.
+// units, `trimTrailingZeroes` drops zero decimals of the last unit (and its bare separator).
+// Rounding happens once, in the last unit, halves away from zero, and carries upwards: 59.99"
+// at one decimal shows as the next whole minute. The decimal separator is the locale one.
 std::string Float2DMSStr(Extended degrees, TQORDMSType type, std::uint8_t decimals,
                          bool leadingZeroes, bool spaceUnits, bool trimTrailingZeroes);
-// Reads any of the texts above (marks optional between numbers separated by blanks, a plain
-// number is degrees; a leading minus or a trailing S/W negates). Raises EConvertError.
+// Reads any of the texts above. Each number may carry a mark naming its unit; numbers without
+// one take the next unit in turn and are separated by blanks ("12 30 45"); units must come in
+// order (degrees, minutes, seconds) and add up (minutes past 59 are not refused). A plain
+// number is degrees. The locale decimal separator and "." are both accepted. A leading sign,
+// or a trailing hemisphere letter (rsNorthAbbr/rsSouthAbbr/rsEastAbbr/rsWestAbbr, any case;
+// South and West negate), gives the sign; both at once are refused. Raises EConvertError.
 Extended DMSStr2Float(std::string_view s);
 
 // ---- Currency ------------------------------------------------------------------------------
 
-// Fixed-point currency as text with `decimals` decimals, grouped, with the process-wide
-// currency symbol and positive/negative currency format.
+// Fixed-point currency as text with `decimals` decimals (rounded exactly, halves away from
+// zero), grouped in threes, with the process-wide currency symbol and positive/negative
+// currency format; an amount that rounds to zero uses the positive format. Format numbers
+// out of range fall back to the defaults ("$1" and "-$1").
 std::string Currency2EStr(Currency value, std::uint8_t decimals);
-// Removes the process-wide currency symbol and surrounding blanks; "(x)" becomes "-x".
+// Removes the process-wide currency symbol and surrounding blanks and brings the sign to the
+// front: "($1.00)", "1.00$-" and "- $ 1.00" become "-1.00", so the text of every currency
+// format reads back through Str2Float.
 std::string StripCurrencyString(std::string_view s);
 
 // ---- Small helpers -------------------------------------------------------------------------
