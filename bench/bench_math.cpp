@@ -8,54 +8,25 @@ namespace {
 
 using qorkit::Extended;
 
-void BM_RoundDP(benchmark::State& state)
+// Calls f on a walk of arguments start, start + step ... so no result can be cached; the walk
+// restarts after `limit`.
+void BM_Unary(benchmark::State& state, Extended (*f)(Extended), Extended start, Extended step,
+              Extended limit)
 {
-    Extended x = 1.005L;
+    Extended x = start;
     for (auto _ : state) {
-        benchmark::DoNotOptimize(qorkit::RoundDP(x, 2));
-        x += 0.001L;
+        benchmark::DoNotOptimize(f(x));
+        x = x > limit ? start : x + step;
     }
 }
-BENCHMARK(BM_RoundDP);
 
-void BM_SinDeg(benchmark::State& state)
-{
-    Extended x = 0.5L;
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(qorkit::QORSinDeg(x));
-        x += 7.25L;
-    }
-}
-BENCHMARK(BM_SinDeg);
+Extended RoundTwoPlaces(Extended x) { return qorkit::RoundDP(x, 2); }
+Extended ModThreeSixty(Extended x) { return qorkit::QORMod(x, 360); }
 
-void BM_SinRadians(benchmark::State& state)
-{
-    Extended x = 0.5L;
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(qorkit::QORSin(x));
-        x += 0.125L;
-    }
-}
-BENCHMARK(BM_SinRadians);
-
-void BM_Gamma(benchmark::State& state)
-{
-    Extended x = 0.5L;
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(qorkit::Gamma(x));
-        x = x > 150 ? 0.5L : x + 1.25L;
-    }
-}
-BENCHMARK(BM_Gamma);
-
-void BM_Mod(benchmark::State& state)
-{
-    Extended x = -1e6L;
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(qorkit::QORMod(x, 360));
-        x += 13.5L;
-    }
-}
-BENCHMARK(BM_Mod);
+BENCHMARK_CAPTURE(BM_Unary, RoundDP, RoundTwoPlaces, 1.005L, 0.001L, 1e6L);
+BENCHMARK_CAPTURE(BM_Unary, SinDeg, qorkit::QORSinDeg, 0.5L, 7.25L, 1e6L);
+BENCHMARK_CAPTURE(BM_Unary, SinRadians, qorkit::QORSin, 0.5L, 0.125L, 1e4L);
+BENCHMARK_CAPTURE(BM_Unary, Gamma, qorkit::Gamma, 0.5L, 1.25L, 150.0L);
+BENCHMARK_CAPTURE(BM_Unary, Mod, ModThreeSixty, -1e6L, 13.5L, 1e6L);
 
 } // namespace
