@@ -1,0 +1,205 @@
+// TQORBaseEdit: the single-line edit the library's number edits are built on. It keeps the
+// null state with its null string, takes typed text over when the user leaves the edit (or
+// presses Enter), reports text it cannot take over, and colours itself by state.
+//
+// A derived edit supplies three steps:
+//   DisplayText()        the text of the present (non-null) value
+//   Convert2Value()      takes the typed text over into the value; throws EConvertError (or
+//                        another qorkit::Exception) for text that is not a value
+//   DoBoundsValidation() whether the value about to be stored is allowed
+// and calls ReportValidationError for a value it refuses, Change after the value changed and
+// DoSignChange with the sign of the value after each conversion.
+//
+// TQORStartEdit is the variant that swaps texts on focus: while the user edits it shows
+// EditText() (a plain, editable form), and the formatted DisplayText() otherwise.
+#pragma once
+
+#include "QORKITComponent.h"
+#include "QORKITEditColors.h"
+
+#include <QLineEdit>
+
+namespace qorkit {
+
+// Replaces the process-wide decimal and thousands separators for the life of the object when
+// `active`, and puts the old ones back afterwards (also when an exception leaves the scope).
+class TQORSeparatorScope {
+public:
+    TQORSeparatorScope(bool active, char decimalSeparator, char thousandSeparator);
+    ~TQORSeparatorScope();
+    TQORSeparatorScope(const TQORSeparatorScope&) = delete;
+    TQORSeparatorScope& operator=(const TQORSeparatorScope&) = delete;
+
+private:
+    bool active_;
+    char savedDecimal_;
+    char savedThousands_;
+};
+
+class TQORBaseEdit : public QLineEdit {
+    Q_OBJECT
+    Q_PROPERTY(bool Null READ GetNull WRITE SetNull)
+    Q_PROPERTY(QString NullStr READ GetNullStr WRITE SetNullStr)
+    Q_PROPERTY(bool AllowKbdNull READ GetAllowKbdNull WRITE SetAllowKbdNull)
+    Q_PROPERTY(bool BlankWhenNull READ GetBlankWhenNull WRITE SetBlankWhenNull)
+    Q_PROPERTY(bool BlankIsNull READ GetBlankIsNull WRITE SetBlankIsNull)
+    Q_PROPERTY(bool ReadOnly READ GetReadOnly WRITE SetReadOnly)
+    Q_PROPERTY(bool EditorEnabled READ GetEditorEnabled WRITE SetEditorEnabled)
+    Q_PROPERTY(bool AutoSelect READ GetAutoSelect WRITE SetAutoSelect)
+    Q_PROPERTY(bool AutoSelectClick READ GetAutoSelectClick WRITE SetAutoSelectClick)
+    Q_PROPERTY(bool AutoAdvance READ GetAutoAdvance WRITE SetAutoAdvance)
+    Q_PROPERTY(int MaxLength READ GetMaxLength WRITE SetMaxLength)
+    Q_PROPERTY(bool TabStop READ GetTabStop WRITE SetTabStop)
+    Q_PROPERTY(bool StoreValue READ GetStoreValue WRITE SetStoreValue)
+    Q_PROPERTY(Qt::Alignment Alignment READ GetAlignment WRITE SetAlignment)
+    Q_PROPERTY(QString Text READ text WRITE SetAsString STORED false)
+    Q_PROPERTY(QString AsString READ GetAsString WRITE SetAsString STORED false)
+    Q_PROPERTY(TQOREditColorSet* ColorSet READ GetColorSet)
+    Q_PROPERTY(TQORUICtrl* UICtrl READ GetUICtrl WRITE SetUICtrl)
+    Q_PROPERTY(int UIUsage READ GetUIUsageValue WRITE SetUIUsageValue)
+
+public:
+    explicit TQORBaseEdit(QWidget* parent = nullptr);
+
+    bool GetNull() const { return null_; }
+    // Entering the null state shows the null string (or nothing, with BlankWhenNull) and
+    // raises OnNull; every change of the state raises OnNullChange.
+    void SetNull(bool value);
+    QString GetNullStr() const { return nullStr_; }
+    void SetNullStr(const QString& value);
+    // The user may make the edit null: by typing the null string (any letter case) or, with
+    // BlankIsNull, by leaving the text blank.
+    bool GetAllowKbdNull() const { return allowKbdNull_; }
+    void SetAllowKbdNull(bool value) { allowKbdNull_ = value; }
+    bool GetBlankWhenNull() const { return blankWhenNull_; }
+    void SetBlankWhenNull(bool value);
+    bool GetBlankIsNull() const { return blankIsNull_; }
+    void SetBlankIsNull(bool value) { blankIsNull_ = value; }
+    bool GetReadOnly() const { return readOnly_; }
+    void SetReadOnly(bool value);
+    // Off: the text cannot be typed into, but the control is not shown as read-only (a
+    // composite's button may still change the value).
+    bool GetEditorEnabled() const { return editorEnabled_; }
+    void SetEditorEnabled(bool value);
+    // Select the whole text when the edit is entered with the keyboard / with a click.
+    bool GetAutoSelect() const;
+    void SetAutoSelect(bool value) { autoSelect_ = value; }
+    bool GetAutoSelectClick() const { return autoSelectClick_; }
+    void SetAutoSelectClick(bool value) { autoSelectClick_ = value; }
+    // Enter takes the text over and moves the focus to the next control.
+    bool GetAutoAdvance() const { return autoAdvance_; }
+    void SetAutoAdvance(bool value) { autoAdvance_ = value; }
+    // Longest text the user may type; 0 for no limit.
+    int GetMaxLength() const { return maxLength_; }
+    void SetMaxLength(int value);
+    bool GetTabStop() const;
+    void SetTabStop(bool value);
+    // Whether a host saving the form should save the value (read by the value's property).
+    bool GetStoreValue() const { return storeValue_; }
+    void SetStoreValue(bool value) { storeValue_ = value; }
+    Qt::Alignment GetAlignment() const { return alignment(); }
+    void SetAlignment(Qt::Alignment value) { setAlignment(value); }
+    QString GetAsString() const { return text(); }
+    // Takes `value` over as if the user had typed it and left the edit.
+    void SetAsString(const QString& value);
+
+    TQOREditColorSet* GetColorSet() const { return look_->GetColorSet(); }
+    TQORUICtrl* GetUICtrl() const { return look_->GetUICtrl(); }
+    void SetUICtrl(TQORUICtrl* value) { look_->SetUICtrl(value); }
+    TQORUIUsage GetUIUsage() const { return look_->GetUIUsage(); }
+    void SetUIUsage(TQORUIUsage value) { look_->SetUIUsage(value); }
+    // The colour set in force: the UI control's or the edit's own.
+    const TQOREditColorSet* EffectiveColorSet() const { return look_->EffectiveColorSet(); }
+    TQOREditState GetEditState() const;
+
+    // Takes the typed text over now (as leaving the edit does). False when it was refused.
+    bool ValidateEdit();
+    // Shows the value again in the form that fits the edit's state.
+    void Redisplay();
+    // Whether the last typed text was refused (cleared by the next edit or value).
+    bool GetValidationFailed() const { return validationFailed_; }
+    // Sign of the value as last reported by the derived edit: -1, 0 or 1.
+    int GetSign() const { return sign_; }
+    bool IsEditing() const { return editing_; }
+
+    void SetOnChange(TQORNotifyEvent e) { onChange_ = std::move(e); }
+    const TQORNotifyEvent& GetOnChange() const { return onChange_; }
+    void SetOnNull(TQORNotifyEvent e) { onNull_ = std::move(e); }
+    const TQORNotifyEvent& GetOnNull() const { return onNull_; }
+    void SetOnNullChange(TQORNotifyEvent e) { onNullChange_ = std::move(e); }
+    const TQORNotifyEvent& GetOnNullChange() const { return onNullChange_; }
+    void SetOnSignChange(TQORSignChangeEvent e) { onSignChange_ = std::move(e); }
+    const TQORSignChangeEvent& GetOnSignChange() const { return onSignChange_; }
+    void SetOnColorSetChange(TQORNotifyEvent e) { onColorSetChange_ = std::move(e); }
+    const TQORNotifyEvent& GetOnColorSetChange() const { return onColorSetChange_; }
+    void SetOnSpecialColor(TQORSpecialColorEvent e) { onSpecialColor_ = std::move(e); }
+    const TQORSpecialColorEvent& GetOnSpecialColor() const { return onSpecialColor_; }
+    // Text the edit refuses: without a handler the edit beeps.
+    void SetOnValidationError(TQORValidationErrorEvent e) { onValidationError_ = std::move(e); }
+    const TQORValidationErrorEvent& GetOnValidationError() const { return onValidationError_; }
+
+protected:
+    virtual QString DisplayText() const;
+    virtual QString EditText() const { return DisplayText(); }
+    virtual void Convert2Value() { }
+    virtual bool DoBoundsValidation() { return true; }
+    // Whether leaving the edit takes the text over even when nothing was typed (an edit
+    // that rounds its value to what it shows).
+    virtual bool ConvertWhenUnchanged() const { return false; }
+
+    // Refuses the typed text: the old value is shown again and the hook is told why.
+    void ReportValidationError(const QString& message);
+    void Change();
+    void DoSignChange(int sign);
+    // Leaves the null state without redisplaying (for setters that redisplay anyway).
+    void ClearNullQuietly();
+    // Set by the start-edit variant: swap to EditText() while focused.
+    void SetSwitchTextOnFocus(bool value) { switchOnFocus_ = value; }
+    void UpdateColors();
+
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    int GetUIUsageValue() const { return GetUIUsage(); }
+    void SetUIUsageValue(int value);
+    void ApplyLook();
+    void UpdateReadOnly();
+    void ShowText(const QString& text);
+
+    bool null_ = false;
+    QString nullStr_;
+    bool allowKbdNull_ = false;
+    bool blankWhenNull_ = false;
+    bool blankIsNull_ = false;
+    bool readOnly_ = false;
+    bool editorEnabled_ = true;
+    bool autoSelect_ = true;
+    bool autoSelectClick_ = false;
+    bool autoAdvance_ = false;
+    int maxLength_ = 0;
+    bool storeValue_ = true;
+    bool switchOnFocus_ = false;
+    bool editing_ = false;
+    bool validationFailed_ = false;
+    int sign_ = 0;
+    TQORLook* look_;
+    TQORNotifyEvent onChange_;
+    TQORNotifyEvent onNull_;
+    TQORNotifyEvent onNullChange_;
+    TQORSignChangeEvent onSignChange_;
+    TQORNotifyEvent onColorSetChange_;
+    TQORSpecialColorEvent onSpecialColor_;
+    TQORValidationErrorEvent onValidationError_;
+};
+
+class TQORStartEdit : public TQORBaseEdit {
+    Q_OBJECT
+
+public:
+    explicit TQORStartEdit(QWidget* parent = nullptr);
+};
+
+} // namespace qorkit
