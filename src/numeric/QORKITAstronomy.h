@@ -1,0 +1,130 @@
+// Positional astronomy: Julian dates, days of the week, universal and sidereal time records,
+// hour angle and right ascension, coordinate transforms, and the sun (orbit, position, distance,
+// angular diameter, rising and setting).
+//
+// Angles are degrees, right ascension and hour angle hours, dates the host date-time (days since
+// 1899-12-30). Julian dates are doubles. The sun model takes only the day of a date-time into
+// account. Invalid dates raise EConvertError with rsInvalidDate; trigonometric domain faults
+// raise the base EMathError kinds. No function returns NaN or infinity.
+#pragma once
+
+#include "QORKITTypes.h"
+
+#include <cstdint>
+
+namespace qorkit {
+
+// ---- Dates ---------------------------------------------------------------------------------
+
+// Julian date of a calendar date; Day may carry the time of day as a fraction. Dates up to
+// 1582-10-04 are Julian-calendar dates, from 1582-10-15 on Gregorian ones.
+double DateTime2Julian(std::int32_t Year, std::int32_t Month, double Day);
+double DateTime2Julian(TDateTime DT);
+// Calendar date of a Julian date.
+void Julian2DateTime(double JD, std::int32_t& Year, std::int32_t& Month, double& Day);
+// As a host date-time; a year below 1 sets DT to 0 and raises EConvertError (rsInvalidDate).
+void Julian2DateTime(double JD, TDateTime& DT);
+
+double Julian2ModifiedJulian(double JD);
+double ModifiedJulian2Julian(double MJD);
+double DateTime2ModifiedJulian(std::int32_t Year, std::int32_t Month, double Day);
+double DateTime2ModifiedJulian(TDateTime DT);
+void ModifiedJulian2DateTime(double MJD, std::int32_t& Year, std::int32_t& Month, double& Day);
+void ModifiedJulian2DateTime(double MJD, TDateTime& DT);
+
+// Day of the week of a Julian date: 1 Sunday .. 7 Saturday. The day part is rounded, halves to
+// even, so noon itself belongs to the day before or after depending on the day.
+int Julian2DOW(double JD);
+// 0 Sunday .. 6 Saturday, by the same rule.
+int Julian2QORDayOfWeek(double JD);
+// 1 Monday .. 7 Sunday.
+int Julian2ISODOW(double JD);
+
+// ---- Time records --------------------------------------------------------------------------
+
+// A record of the given type from a date-time; the longitude is kept for local sidereal time.
+TQORTime DateTime2QORTime(TDateTime DT, TQORTimeTypes TimeType, double Longitude);
+// Raises EConvertError for fields outside a clock's range (a sidereal 24 h, for example).
+TDateTime QORTime2DateTime(const TQORTime& T);
+// Hours, minutes and seconds as hours.
+Extended QORTime2Hrs(const TQORTime& T);
+
+// ---- Sidereal time -------------------------------------------------------------------------
+// Hour values are wrapped into the range 0 .. 24 with 24 itself kept. Where the day number
+// follows the wrap, it moves opposite to the hours (one day less for each 24 h taken off):
+// that bookkeeping is intended.
+
+TQORTime UT2GST(TDateTime DT);
+TQORTime GST2UT(TDateTime DT);
+// Universal time, in hours, of a Greenwich sidereal time on the day of DT.
+Extended GST2UTHrs(TDateTime DT, Extended GSTHours);
+TQORTime LST2GST(TDateTime DT, double Longitude);
+TQORTime GST2LST(TDateTime DT, double Longitude);
+TQORTime QORTime2GST(const TQORTime& T);
+TQORTime QORTime2UT(const TQORTime& T);
+TQORTime QORTime2LST(const TQORTime& T, double Longitude);
+
+// Hour angle of a right ascension, and back. Both add 24 h to any result below 24, so ordinary
+// results lie in 24 .. 48 and RA = LST gives 24: intended, callers reduce as they need.
+Extended Ascension2HourAngle(Extended RA, const TQORTime& T, double Longitude);
+Extended Ascension2HourAngle(Extended RA, TDateTime DT, double Longitude);
+Extended HourAngle2Ascension(Extended HourAngle, const TQORTime& T, double Longitude);
+Extended HourAngle2Ascension(Extended HourAngle, TDateTime DT, double Longitude);
+
+// ---- Coordinates ---------------------------------------------------------------------------
+
+void Equatorial2Horizon(Extended HourAngle, Extended Declination, Extended Latitude,
+                        Extended& Altitude, Extended& Azimuth);
+void Horizon2Equatorial(Extended Altitude, Extended Azimuth, Extended Latitude, Extended& HourAngle,
+                        Extended& Declination);
+// Mean obliquity of the ecliptic on a date.
+Extended MeanObliquity(TDateTime DT);
+// The forms with an Extended third argument take the obliquity; those with a date-time use the
+// mean obliquity of that date.
+void Ecliptic2Equatorial(Extended Longitude, Extended Latitude, Extended Obliquity, Extended& RA,
+                         Extended& Declination);
+void Ecliptic2Equatorial(Extended Longitude, Extended Latitude, TDateTime DT, Extended& RA,
+                         Extended& Declination);
+void Equatorial2Ecliptic(Extended RA, Extended Declination, Extended Obliquity, Extended& Longitude,
+                         Extended& Latitude);
+void Equatorial2Ecliptic(Extended RA, Extended Declination, TDateTime DT, Extended& Longitude,
+                         Extended& Latitude);
+void Equatorial2Galactic(Extended RA, Extended Declination, Extended& GalLongitude,
+                         Extended& GalLatitude);
+void Galactic2Equatorial(Extended GalLongitude, Extended GalLatitude, Extended& RA,
+                         Extended& Declination);
+
+// ---- The sun -------------------------------------------------------------------------------
+
+Extended Sun_EclipticLongitudeEpoch(TDateTime DT);
+Extended Sun_EclipticLongitudePerigee(TDateTime DT);
+Extended Sun_OrbitEccentricity(TDateTime DT);
+void Sun_EpochValues(TDateTime DT, Extended& EpochLongitude, Extended& PerigeeLongitude,
+                     Extended& Eccentricity);
+// True anomaly in degrees, (-180, 180].
+Extended Sun_TrueAnomaly(TDateTime DT);
+// Right ascension (hours) and declination (degrees), mean equinox of the date.
+void Sun_Position(TDateTime DT, Extended& RA, Extended& Declination);
+Extended Sun_AngularDiameter(TDateTime DT); // degrees
+Extended Sun_Distance(TDateTime DT); // kilometres
+Extended Sun_DistanceAU(TDateTime DT); // astronomical units
+
+// What the sun does on a day at a place.
+enum TQORSunDay : std::uint8_t {
+    sdRiseAndSet = 0, // it rises and sets
+    sdAlwaysUp = 1, // polar day: RiseTime is the start of the day, SetTime its end
+    sdAlwaysDown = 2 // polar night: RiseTime and SetTime are both the start of the day
+};
+
+// Rising and setting of the sun's upper limb on the civil day of DT at Position, as date-times
+// of that day in civil time (universal time + HourOffset hours). Sun_RiseSet corrects the
+// geometric rising for semidiameter, refraction and parallax along the sun's path; near the
+// polar circles, where the path grazes the horizon and that correction no longer holds, it
+// falls back to the zenith-distance method. Sun_RiseSet2 uses the zenith distance 90.833
+// degrees throughout. For a polar day or night the times are set as TQORSunDay describes.
+TQORSunDay Sun_RiseSet(TDateTime DT, const TQORPosition& Position, Extended HourOffset,
+                       TDateTime& RiseTime, TDateTime& SetTime);
+TQORSunDay Sun_RiseSet2(TDateTime DT, const TQORPosition& Position, Extended HourOffset,
+                        TDateTime& RiseTime, TDateTime& SetTime);
+
+} // namespace qorkit
