@@ -156,7 +156,11 @@ TDateTime Now()
     const auto now = system_clock::now();
     const std::time_t seconds = system_clock::to_time_t(now);
     std::tm local {};
+#ifdef _WIN32
+    localtime_s(&local, &seconds);
+#else
     localtime_r(&seconds, &local);
+#endif
     const auto ms = duration_cast<milliseconds>(now.time_since_epoch()).count() % 1000;
     return EncodeDate(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday)
         + EncodeTime(local.tm_hour, local.tm_min, local.tm_sec > 59 ? 59 : local.tm_sec,
