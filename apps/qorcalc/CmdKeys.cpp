@@ -1,0 +1,97 @@
+// qorcalc keys: replays key names into a calculator engine and shows the display after each
+// key and the paper tape at the end.
+#include "QORKITCalcEngine.h"
+#include "QorcalcCommands.h"
+
+#include <iomanip>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace qorcalc {
+// Defined with `qorcalc eval`.
+bool ApplyEngineOptions(std::vector<std::string>& args, qorkit::TQORCalcEngine& engine,
+                        std::ostream& err);
+} // namespace qorcalc
+
+namespace {
+
+// The key names, wrapped, for the usage text; the digits are shown as one range.
+std::string KeyNames()
+{
+    std::string text = "\n  keys:  0-9";
+    std::size_t lineLength = text.size() - 1;
+    for (const auto& key : qorkit::CalcEngineKeys()) {
+        if (key.Name.size() == 1 && key.Name[0] >= '0' && key.Name[0] <= '9')
+            continue;
+        if (lineLength + key.Name.size() + 1 > 92) {
+            text += "\n        ";
+            lineLength = 8;
+        }
+        text += ' ';
+        text += key.Name;
+        lineLength += key.Name.size() + 1;
+    }
+    text += " roundN\n         a number such as 12.5 types its digits; --list describes every key";
+    return text;
+}
+
+void ListKeys(std::ostream& out)
+{
+    for (const auto& key : qorkit::CalcEngineKeys())
+        out << "  " << std::left << std::setw(9) << key.Name << key.Description << '\n';
+    out << "  " << std::left << std::setw(9) << "roundN"
+        << "round to N decimals\n";
+}
+
+int RunKeys(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err)
+{
+    auto args = arguments;
+    if (qorcalc::TakeFlag(args, "--list")) {
+        ListKeys(out);
+        return 0;
+    }
+    qorkit::TQORCalcEngine engine;
+    engine.SetPrefixFunctions(qorcalc::TakeFlag(args, "--prefix"));
+    engine.SetPrecedence(!qorcalc::TakeFlag(args, "--no-precedence"));
+    engine.SetOperatorSameLine(qorcalc::TakeFlag(args, "--same-line"));
+    engine.SetBinaryPercent(!qorcalc::TakeFlag(args, "--unary-percent"));
+    if (!qorcalc::ApplyEngineOptions(args, engine, err))
+        return 2;
+    std::vector<std::string> keys;
+    for (const auto& arg : args) {
+        std::istringstream words(arg);
+        for (std::string word; words >> word;)
+            keys.push_back(word);
+    }
+    if (keys.empty()) {
+        err << "qorcalc keys: no keys given (qorcalc keys --list names them)\n";
+        return 2;
+    }
+    for (const auto& key : keys) {
+        if (!qorkit::PressCalcKey(engine, key)) {
+            err << "qorcalc keys: unknown key '" << key << "' (qorcalc keys --list names them)\n";
+            return 2;
+        }
+        out << std::left << std::setw(9) << key << engine.GetDisplayStr() << '\n';
+    }
+    out << "tape:\n";
+    for (const auto& line : engine.GetHistory())
+        out << "  " << line << '\n';
+    if (!engine.GetLastError().empty()) {
+        err << engine.GetLastError() << '\n';
+        return 1;
+    }
+    return 0;
+}
+
+const bool registered = qorcalc::RegisterCommand(
+    {"keys",
+     "[--deg|--rad|--grad] [--decimals N] [--prefix] [--no-precedence] [--same-line] "
+     "[--unary-percent] KEYS... | --list"
+         + KeyNames(),
+     "replay calculator keys such as \"2 + 3 * 4 =\" or \"30 sin\", showing the display after "
+     "each key and the paper tape at the end",
+     RunKeys});
+
+} // namespace

@@ -1,0 +1,7 @@
+run eval "2+3*4"
+run eval --deg "sin 30 + cos(60)"
+run eval --decimals 3 "sqrt(2) * pi"
+run eval "200+10%"
+run eval "foo(1)"
+run keys "2 + 3 * 4 ="
+run keys --deg --same-line "3 0 sin + 1 = m+ mr"
