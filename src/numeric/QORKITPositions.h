@@ -1,0 +1,41 @@
+// Positions on the earth's surface: construction with range checks, the caller's sign
+// convention, text forms, and great-circle navigation (initial bearing, distance, and the
+// position reached along a bearing) in nautical miles, kilometres or statute miles.
+//
+// A TQORPosition always stores north- and east-positive degrees. QORNorthPositive and
+// QOREastPositive (QORKITSettings.h) say how callers give and receive latitudes and longitudes.
+#pragma once
+
+#include "QORKITTypes.h"
+
+#include <cstdint>
+#include <string>
+
+namespace qorkit {
+
+// Raises EConvertError with rsInvalidLatitude when |Latitude| > 90 (checked first), with
+// rsInvalidLongitude when |Longitude| > 180.
+TQORPosition MakePosition(Extended Latitude, Extended Longitude);
+Extended GetLatitude(const TQORPosition& Position);
+Extended GetLongitude(const TQORPosition& Position);
+
+// "51.48N 0.00W": degrees of the stored values with hemisphere letters (none for exactly 0).
+std::string Position2Str(const TQORPosition& Position, std::uint8_t Decimals);
+// The same with degrees, minutes and seconds.
+std::string Position2DMSStr(const TQORPosition& Position, std::uint8_t Decimals);
+
+// Initial great-circle bearing in degrees, 0 up to 360.
+Extended GetBearing(const TQORPosition& From, const TQORPosition& To);
+Extended GetDistanceNM(const TQORPosition& From, const TQORPosition& To);
+// Radius is the earth's radius in metres.
+Extended GetDistanceKm(const TQORPosition& From, const TQORPosition& To, double Radius);
+Extended GetDistanceMiles(const TQORPosition& From, const TQORPosition& To, double Radius);
+
+// The position reached from From along the initial Bearing (degrees) over Distance.
+TQORPosition GetPositionNM(const TQORPosition& From, Extended Distance, Extended Bearing);
+TQORPosition GetPositionKm(const TQORPosition& From, Extended Distance, Extended Bearing,
+                           double Radius);
+TQORPosition GetPositionMiles(const TQORPosition& From, Extended Distance, Extended Bearing,
+                              double Radius);
+
+} // namespace qorkit
