@@ -1,0 +1,223 @@
+// qorcalc prog: keys through the programmer's calculator engine, the display after each key,
+// the value in the four bases at the end, and the history.
+//
+//   qorcalc prog --base hex --bits 8 "7F + 1 ="
+#include "QORKITProgCalcEngine.h"
+#include "QorcalcCommands.h"
+
+#include <algorithm>
+#include <cctype>
+#include <functional>
+#include <iomanip>
+#include <map>
+#include <ostream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace {
+
+using qorkit::IQORProgCalcEngine;
+using Key = std::function<void(IQORProgCalcEngine&)>;
+
+// Named keys; a count after a colon sets the shift or rotate distance (SHL:4).
+const std::map<std::string, Key, std::less<>>& NamedKeys()
+{
+    static const std::map<std::string, Key, std::less<>> keys {
+        {"+", [](IQORProgCalcEngine& e) { e.DoAdd(); }},
+        {"-", [](IQORProgCalcEngine& e) { e.DoSubtract(); }},
+        {"*", [](IQORProgCalcEngine& e) { e.DoMultiply(); }},
+        {"/", [](IQORProgCalcEngine& e) { e.DoDivide(); }},
+        {"MOD", [](IQORProgCalcEngine& e) { e.DoMod(); }},
+        {"AND", [](IQORProgCalcEngine& e) { e.DoAnd(); }},
+        {"OR", [](IQORProgCalcEngine& e) { e.DoOr(); }},
+        {"XOR", [](IQORProgCalcEngine& e) { e.DoXor(); }},
+        {"NAND", [](IQORProgCalcEngine& e) { e.DoNand(); }},
+        {"NOR", [](IQORProgCalcEngine& e) { e.DoNor(); }},
+        {"XNOR", [](IQORProgCalcEngine& e) { e.DoXnor(); }},
+        {"NOT", [](IQORProgCalcEngine& e) { e.DoNot(); }},
+        {"NEG", [](IQORProgCalcEngine& e) { e.DoNeg(); }},
+        {"(", [](IQORProgCalcEngine& e) { e.InputLeftBracket(); }},
+        {")", [](IQORProgCalcEngine& e) { e.InputRightBracket(); }},
+        {"=", [](IQORProgCalcEngine& e) { e.DoEquals(); }},
+        {"MC", [](IQORProgCalcEngine& e) { e.MemoryClear(); }},
+        {"M+", [](IQORProgCalcEngine& e) { e.MemoryAdd(); }},
+        {"M-", [](IQORProgCalcEngine& e) { e.MemorySubtract(); }},
+        {"MR", [](IQORProgCalcEngine& e) { e.MemoryRecall(); }},
+        {"AC", [](IQORProgCalcEngine& e) { e.AllClear(); }},
+        {"CL", [](IQORProgCalcEngine& e) { e.ClearDisplay(); }},
+        {"BS", [](IQORProgCalcEngine& e) { e.InputBackspace(); }},
+        {"BIN", [](IQORProgCalcEngine& e) { e.SetBaseDisplay(qorkit::bdBinary); }},
+        {"DEC", [](IQORProgCalcEngine& e) { e.SetBaseDisplay(qorkit::bdDecimal); }},
+        {"HEX", [](IQORProgCalcEngine& e) { e.SetBaseDisplay(qorkit::bdHexadecimal); }},
+        {"OCT", [](IQORProgCalcEngine& e) { e.SetBaseDisplay(qorkit::bdOctal); }},
+        {"BITS8", [](IQORProgCalcEngine& e) { e.SetBitSize(qorkit::bs8Bits); }},
+        {"BITS16", [](IQORProgCalcEngine& e) { e.SetBitSize(qorkit::bs16Bits); }},
+        {"BITS32", [](IQORProgCalcEngine& e) { e.SetBitSize(qorkit::bs32Bits); }},
+        {"BITS64", [](IQORProgCalcEngine& e) { e.SetBitSize(qorkit::bs64Bits); }},
+    };
+    return keys;
+}
+
+using CountedKey = void (IQORProgCalcEngine::*)(std::int32_t);
+const std::map<std::string, CountedKey, std::less<>>& CountedKeys()
+{
+    static const std::map<std::string, CountedKey, std::less<>> keys {
+        {"SHL", &IQORProgCalcEngine::DoShl},
+        {"SHR", &IQORProgCalcEngine::DoShr},
+        {"ROL", &IQORProgCalcEngine::DoRol},
+        {"ROR", &IQORProgCalcEngine::DoRor},
+    };
+    return keys;
+}
+
+std::string Upper(std::string s)
+{
+    std::transform(s.begin(), s.end(), s.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+    return s;
+}
+
+// Index of `text` in `names` (case-insensitive), or -1.
+template<std::size_t N> int Choice(const std::string& text, const char* const (&names)[N])
+{
+    for (std::size_t i = 0; i < N; ++i)
+        if (Upper(text) == Upper(names[i]))
+            return static_cast<int>(i);
+    return -1;
+}
+
+struct PressedKey {
+    std::string Label;
+    Key Action;
+};
+
+// Splits the key text into keys: named keys are whole words; anything else is a run of digits,
+// each digit one key, so "7F+1=" and "7F + 1 =" both work.
+bool ParseKeys(const std::string& text, std::vector<PressedKey>& keys, std::string& bad)
+{
+    std::istringstream words(text);
+    std::string word;
+    while (words >> word) {
+        const std::string upper = Upper(word);
+        if (auto it = NamedKeys().find(upper); it != NamedKeys().end()) {
+            keys.push_back({upper, it->second});
+            continue;
+        }
+        const std::size_t colon = upper.find(':');
+        if (auto it = CountedKeys().find(upper.substr(0, colon)); it != CountedKeys().end()) {
+            int count = 1;
+            if (colon != std::string::npos) {
+                try {
+                    count = std::stoi(upper.substr(colon + 1));
+                } catch (const std::exception&) {
+                    bad = word;
+                    return false;
+                }
+            }
+            const CountedKey member = it->second;
+            keys.push_back({upper, [member, count](IQORProgCalcEngine& e) { (e.*member)(count); }});
+            continue;
+        }
+        for (char ch : upper) {
+            const std::string single(1, ch);
+            if (auto op = NamedKeys().find(single); op != NamedKeys().end())
+                keys.push_back({single, op->second});
+            else if (std::isxdigit(static_cast<unsigned char>(ch)))
+                keys.push_back({single, [ch](IQORProgCalcEngine& e) { e.InputDigit(ch); }});
+            else {
+                bad = word;
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+int RunProg(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err)
+{
+    static const char* const kBases[] = {"bin", "dec", "hex", "oct"};
+    static const char* const kBits[] = {"8", "16", "32", "64"};
+    static const char* const kSpacings[] = {"none", "byte", "word", "dword"};
+    static const char* const kChanges[] = {"clear", "truncate", "extend"};
+
+    auto args = arguments;
+    std::string base = "hex";
+    std::string bits = "64";
+    std::string spacing = "none";
+    std::string change = "clear";
+    qorcalc::TakeOption(args, "--base", base);
+    qorcalc::TakeOption(args, "--bits", bits);
+    qorcalc::TakeOption(args, "--spacing", spacing);
+    qorcalc::TakeOption(args, "--size-change", change);
+    const bool noPrecedence = qorcalc::TakeFlag(args, "--no-precedence");
+    const bool postfixNot = qorcalc::TakeFlag(args, "--postfix-not");
+    const int baseIndex = Choice(base, kBases);
+    const int bitsIndex = Choice(bits, kBits);
+    const int spacingIndex = Choice(spacing, kSpacings);
+    const int changeIndex = Choice(change, kChanges);
+    if (baseIndex < 0 || bitsIndex < 0 || spacingIndex < 0 || changeIndex < 0) {
+        err << "qorcalc prog: --base bin|dec|hex|oct, --bits 8|16|32|64, --spacing "
+               "none|byte|word|dword, --size-change clear|truncate|extend\n";
+        return 2;
+    }
+    std::string text;
+    for (const auto& arg : args)
+        text += arg + ' ';
+    std::vector<PressedKey> keys;
+    std::string bad;
+    if (!ParseKeys(text, keys, bad) || keys.empty()) {
+        err << "qorcalc prog: " << (bad.empty() ? "no keys given" : "unknown key '" + bad + "'")
+            << " (see qorcalc prog --help)\n";
+        return 2;
+    }
+
+    qorkit::TQORProgCalcEngine engine;
+    engine.SetBaseDisplay2(static_cast<qorkit::TQORBaseDisplay>(baseIndex));
+    engine.SetBitSize2(static_cast<qorkit::TQORBitSize>(bitsIndex));
+    engine.SetSpacing(static_cast<qorkit::TQORProgSpacing>(spacingIndex));
+    engine.SetSizeChange(static_cast<qorkit::TQORProgSizeChange>(changeIndex));
+    engine.SetPrecedence(!noPrecedence);
+    engine.SetPrefixFunctions(!postfixNot);
+    engine.AllClear();
+
+    // The base's own name: the engine's base text answers "Hex" for octal.
+    out << kBases[baseIndex] << ", " << engine.GetBitSizeStr() << '\n';
+    for (const auto& key : keys) {
+        key.Action(engine);
+        out << "  " << std::left << std::setw(8) << key.Label << engine.GetDisplayStr() << '\n';
+    }
+    if (!engine.GetLastError().empty())
+        out << "error: " << engine.GetLastError() << '\n';
+
+    // The final value as each base shows it at the engine's word size.
+    const std::int64_t value = engine.GetDisplayValue();
+    out << "value (" << engine.GetBitSizeStr() << "):\n";
+    for (int b = 0; b < 4; ++b) {
+        qorkit::TQORProgCalcEngine view;
+        view.SetBaseDisplay2(static_cast<qorkit::TQORBaseDisplay>(b));
+        view.SetBitSize2(engine.GetBitSize());
+        view.SetSpacing(engine.GetSpacing());
+        view.InputValue(value);
+        out << "  " << kBases[b] << "  " << view.GetDisplayStr() << '\n';
+    }
+    if (engine.GetMemoryValue() != 0)
+        out << "memory: " << engine.GetMemoryContents() << '\n';
+
+    out << "history:\n";
+    engine.HistoryStart();
+    for (std::int32_t i = 0; i < engine.GetHistoryLength(); ++i)
+        out << "  " << engine.GetNextHistoryEntry() << '\n';
+    return 0;
+}
+
+const bool registered = qorcalc::RegisterCommand(
+    {"prog",
+     "[--base bin|dec|hex|oct] [--bits 8|16|32|64] [--spacing none|byte|word|dword] "
+     "[--size-change clear|truncate|extend] [--no-precedence] [--postfix-not] KEYS",
+     "programmer's calculator: digits, + - * / ( ) =, MOD AND OR XOR NAND NOR XNOR NOT NEG, "
+     "SHL SHR ROL ROR (SHL:4 shifts by 4), MC M+ M- MR, AC (all clear) CL BS, BIN DEC HEX OCT, "
+     "BITS8..BITS64",
+     RunProg});
+
+} // namespace

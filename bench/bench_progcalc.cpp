@@ -1,0 +1,132 @@
+// Keys per second of the programmer's engine for typical key sequences, next to the same
+// sequence worked in plain uint64 arithmetic (digits accumulated, operators applied), which
+// is the floor that an engine with texts, stacks and history is measured against.
+#include "QORKITProgCalcEngine.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstdint>
+#include <string_view>
+
+namespace {
+
+using namespace qorkit;
+
+struct Sequence {
+    TQORBaseDisplay base;
+    TQORBitSize size;
+    std::string_view keys; // digits and + - * & < ( ) =
+};
+
+constexpr Sequence kHex8 {bdHexadecimal, bs8Bits, "7F+1="};
+constexpr Sequence kDecimal {bdDecimal, bs64Bits, "1234*5678-9=12+34*56="};
+constexpr Sequence kBinary32 {bdBinary, bs32Bits, "11110000&10101010<=1011+(110*11)="};
+
+void Press(TQORProgCalcEngine& e, char key)
+{
+    switch (key) {
+    case '+':
+        e.DoAdd();
+        break;
+    case '-':
+        e.DoSubtract();
+        break;
+    case '*':
+        e.DoMultiply();
+        break;
+    case '&':
+        e.DoAnd();
+        break;
+    case '<':
+        e.DoShl(1);
+        break;
+    case '(':
+        e.InputLeftBracket();
+        break;
+    case ')':
+        e.InputRightBracket();
+        break;
+    case '=':
+        e.DoEquals();
+        break;
+    default:
+        e.InputDigit(key);
+        break;
+    }
+}
+
+void BM_Engine(benchmark::State& state, Sequence seq)
+{
+    TQORProgCalcEngine e;
+    e.SetBaseDisplay2(seq.base);
+    e.SetBitSize2(seq.size);
+    for (auto _ : state) {
+        e.AllClear();
+        for (char key : seq.keys)
+            Press(e, key);
+        benchmark::DoNotOptimize(e.GetDisplayValue());
+    }
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(seq.keys.size()));
+}
+
+// The peer: the same keys with a digit accumulator, a one-level pending operator and a
+// bracket register, in uint64 without texts or history.
+void BM_PlainUint64(benchmark::State& state, Sequence seq)
+{
+    const std::uint64_t radix = seq.base == bdBinary ? 2 : seq.base == bdDecimal ? 10 : 16;
+    const std::uint64_t mask = seq.size == bs64Bits ? ~0ULL : (1ULL << (8 << seq.size)) - 1;
+    auto apply = [](char op, std::uint64_t b, std::uint64_t a) {
+        switch (op) {
+        case '+':
+            return b + a;
+        case '-':
+            return b - a;
+        case '*':
+            return b * a;
+        case '&':
+            return b & a;
+        default:
+            return a;
+        }
+    };
+    for (auto _ : state) {
+        std::uint64_t acc = 0;
+        std::uint64_t entry = 0;
+        std::uint64_t saved = 0;
+        char op = ' ';
+        char savedOp = ' ';
+        for (char key : seq.keys) {
+            if (key >= '0' && key <= '9') {
+                entry = entry * radix + static_cast<std::uint64_t>(key - '0');
+            } else if (key >= 'A' && key <= 'F') {
+                entry = entry * radix + static_cast<std::uint64_t>(key - 'A' + 10);
+            } else if (key == '<') {
+                entry = (entry << 1) & mask;
+            } else if (key == '(') {
+                saved = acc;
+                savedOp = op;
+                op = ' ';
+            } else if (key == ')') {
+                entry = apply(op, acc, entry) & mask;
+                acc = saved;
+                op = savedOp;
+            } else {
+                acc = apply(op, acc, entry) & mask;
+                op = key == '=' ? ' ' : key;
+                entry = key == '=' ? acc : 0;
+            }
+            benchmark::DoNotOptimize(entry);
+        }
+        benchmark::DoNotOptimize(acc);
+    }
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(seq.keys.size()));
+}
+
+BENCHMARK_CAPTURE(BM_Engine, Hex8, kHex8);
+BENCHMARK_CAPTURE(BM_PlainUint64, Hex8, kHex8);
+BENCHMARK_CAPTURE(BM_Engine, Decimal64, kDecimal);
+BENCHMARK_CAPTURE(BM_PlainUint64, Decimal64, kDecimal);
+BENCHMARK_CAPTURE(BM_Engine, Binary32, kBinary32);
+BENCHMARK_CAPTURE(BM_PlainUint64, Binary32, kBinary32);
+
+} // namespace

@@ -1,0 +1,1144 @@
+#include "QORKITProgCalcEngine.h"
+
+#include "QORKITExceptions.h"
+#include "QORKITMath.h"
+#include "QORKITResource.h"
+#include "QORKITStrings.h"
+#include "QORKIT_RS_Calc.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <exception>
+#include <limits>
+#include <string_view>
+
+namespace qorkit {
+
+namespace {
+
+// Digit counts per word size: hexadecimal, octal, binary.
+struct TDigitCounts {
+    int Hex;
+    int Oct;
+    int Bin;
+};
+constexpr std::array<TDigitCounts, 4> kDigitCounts {
+    {{2, 3, 8}, {4, 6, 16}, {8, 11, 32}, {16, 22, 64}}};
+
+// Characters per group, by base (binary, decimal, hexadecimal, octal) and spacing (none, byte,
+// word, double word). Decimal is never grouped. The octal widths do not fall on byte
+// boundaries; they are the chosen grouping and stay as they are.
+constexpr std::array<std::array<int, 4>, 4> kGroupWidths {
+    {{0, 8, 16, 32}, {0, 0, 0, 0}, {0, 2, 4, 8}, {0, 3, 6, 12}}};
+
+constexpr int kMaxDecimalEntry = 20; // characters of a decimal entry, sign included
+constexpr std::size_t kInitialStack = 10;
+
+// Keys after which "+" and "-" are signs, and after which a base change must not complete
+// the calculation.
+constexpr std::string_view kOperatorKeys = "!#%&(*+-/?@|~";
+// Function letters of the calculator key codes: always pushed above the stack top.
+constexpr std::string_view kFunctionLetters = "ACDGLNQRSTUWacdfgilnqrstuw";
+constexpr std::string_view kBinaryOperators = "+-*/%&|^#?!";
+
+bool Contains(std::string_view set, char ch) { return set.find(ch) != std::string_view::npos; }
+
+// The history word of a two-operand operator.
+std::string OperatorHistoryText(char op)
+{
+    switch (op) {
+    case '%':
+        return rsMODPaper();
+    case '&':
+        return rsANDPaper();
+    case '|':
+        return rsORPaper();
+    case '^':
+        return rsXORPaper();
+    case '#':
+        return rsNANDPaper();
+    case '?':
+        return rsNORPaper();
+    case '!':
+        return rsXNORPaper();
+    default:
+        return std::string(1, op);
+    }
+}
+
+// Two-operand operators on b (left) and a (right), wrapping in the unsigned type U. The
+// division operators are handled by the caller.
+template<typename U> U ApplyBitsAndSums(char op, U b, U a)
+{
+    switch (op) {
+    case '+':
+        return static_cast<U>(b + a);
+    case '-':
+        return static_cast<U>(b - a);
+    case '*':
+        return static_cast<U>(b * a);
+    case '&':
+        return static_cast<U>(b & a);
+    case '|':
+        return static_cast<U>(b | a);
+    case '^':
+        return static_cast<U>(b ^ a);
+    case '#':
+        return static_cast<U>(~(b & a));
+    case '?':
+        return static_cast<U>(~(b | a));
+    case '!':
+        return static_cast<U>(~(b ^ a));
+    default:
+        return 0;
+    }
+}
+
+// Signed division and remainder in the signed type S, with the quotient truncated toward
+// zero and the remainder taking the sign of b. The caller has excluded a == 0.
+template<typename S> S DivideOrMod(char op, S b, S a, bool faultOnOverflow)
+{
+    if (b == std::numeric_limits<S>::min() && a == -1) {
+        // The processor faults on this quotient; 64-bit division wraps to itself instead.
+        if (faultOnOverflow)
+            throw EZeroDivide(rsDivideByZero());
+        return op == '/' ? b : S {0};
+    }
+    return op == '/' ? static_cast<S>(b / a) : static_cast<S>(b % a);
+}
+
+// Shifts and rotates of the word-size value a (already sign-extended); count is 1..64.
+std::int64_t ShiftLeft(std::int64_t a, int bits, int count)
+{
+    if (count >= bits)
+        return 0;
+    if (bits == 64)
+        return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) << count);
+    // Small sizes shift the 32-bit sign-extended value and keep its 32-bit sign.
+    return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) << count);
+}
+
+std::int64_t ShiftRight(std::int64_t a, int bits, int count)
+{
+    if (count >= bits)
+        return 0;
+    if (bits == 64)
+        return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) >> count);
+    // A logical shift of the 32-bit sign-extended value: at 8 and 16 bits copies of the sign
+    // enter the visible bits, at 32 bits zeros do. Intended; kept.
+    return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) >> count);
+}
+
+std::int64_t RotateLeft(std::int64_t a, int bits, int count)
+{
+    const auto n = static_cast<unsigned>(count);
+    switch (bits) {
+    case 8:
+        return static_cast<std::int8_t>(ROL8(static_cast<std::uint8_t>(a), n));
+    case 16:
+        return static_cast<std::int16_t>(ROL16(static_cast<std::uint16_t>(a), n));
+    case 32:
+        return static_cast<std::int32_t>(ROL32(static_cast<std::uint32_t>(a), n));
+    default:
+        return static_cast<std::int64_t>(ROL64(static_cast<std::uint64_t>(a), n));
+    }
+}
+
+std::int64_t RotateRight(std::int64_t a, int bits, int count)
+{
+    const auto n = static_cast<unsigned>(count);
+    switch (bits) {
+    case 8:
+        return static_cast<std::int8_t>(ROR8(static_cast<std::uint8_t>(a), n));
+    case 16:
+        return static_cast<std::int16_t>(ROR16(static_cast<std::uint16_t>(a), n));
+    case 32:
+        return static_cast<std::int32_t>(ROR32(static_cast<std::uint32_t>(a), n));
+    default:
+        return static_cast<std::int64_t>(ROR64(static_cast<std::uint64_t>(a), n));
+    }
+}
+
+// Signed decimal text of an entry: blanks ignored, an optional sign, digits. A lone sign or
+// empty text is 0; values beyond the int64 range wrap modulo 2^64 like the rest of the
+// engine's arithmetic.
+std::int64_t ParseDecimalEntry(const std::string& text)
+{
+    std::string s = RemoveGroupSpacing(text, ' ');
+    std::size_t i = 0;
+    bool negative = false;
+    if (i < s.size() && (s[i] == '+' || s[i] == '-'))
+        negative = s[i++] == '-';
+    std::uint64_t magnitude = 0;
+    for (; i < s.size(); ++i) {
+        if (s[i] < '0' || s[i] > '9')
+            throw EConvertError(FormatMessage(rsInvalidInteger(), text));
+        magnitude = magnitude * 10U + static_cast<std::uint64_t>(s[i] - '0');
+    }
+    return static_cast<std::int64_t>(negative ? 0U - magnitude : magnitude);
+}
+
+// The entry text of a base as hexadecimal digits, at most the 16 of the int64 pattern.
+std::string EntryToHex(const std::string& text, TQORBaseDisplay base)
+{
+    const std::string digits = RemoveGroupSpacing(text, ' ');
+    std::string hex;
+    switch (base) {
+    case bdBinary:
+        hex = Bin2Hex(digits);
+        break;
+    case bdOctal:
+        hex = Oct2Hex(digits);
+        break;
+    case bdDecimal:
+        hex = Int2EHex(ParseDecimalEntry(digits));
+        break;
+    default:
+        hex = digits;
+        std::transform(hex.begin(), hex.end(), hex.begin(), [](char c) {
+            return static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+        });
+        break;
+    }
+    return RightStr(hex, 16);
+}
+
+} // namespace
+
+// ---- Construction ------------------------------------------------------------------------
+
+TQORProgCalcEngine::TQORProgCalcEngine()
+{
+    entry_.clear();
+    value_ = 0;
+    // Base and size still hold their zero ordinals here, so the first display is eight binary
+    // zeros; the owner refreshes it before showing it.
+    SetDisplayValue0();
+    lastKey_ = ' ';
+    lastError_.clear();
+    maxDisplayLength_ = 26;
+    operandTop_ = -1;
+    operands_.assign(kInitialStack, 0);
+    operatorTop_ = -1;
+    operators_.assign(kInitialStack, ' ');
+    ClearHistory();
+    precedence_ = true;
+    memoryHistory_ = false;
+    baseDisplay_ = bdHexadecimal;
+    bitSize_ = bs64Bits;
+    spacing_ = psNoSpacing;
+    sizeChange_ = pscClear;
+    prefixFunctions_ = true;
+}
+
+// ---- Texts of the value --------------------------------------------------------------------
+
+void TQORProgCalcEngine::GetNoChars(int& hexChars, int& octChars, int& binChars) const
+{
+    const TDigitCounts& counts = kDigitCounts[bitSize_ & 3U];
+    hexChars = counts.Hex;
+    octChars = counts.Oct;
+    binChars = counts.Bin;
+}
+
+std::string TQORProgCalcEngine::CutHex(std::int64_t v) const
+{
+    return RightStr(PadChLeftStr(Int2EHex(v), '0', 16), kDigitCounts[bitSize_ & 3U].Hex);
+}
+
+std::string TQORProgCalcEngine::OctFromHex(const std::string& hex) const
+{
+    return RightStr(PadChLeftStr(Hex2Oct(hex), '0', 22), kDigitCounts[bitSize_ & 3U].Oct);
+}
+
+std::string TQORProgCalcEngine::BinFromHex(const std::string& hex) const
+{
+    return RightStr(PadChLeftStr(Hex2Bin(hex), '0', 64), kDigitCounts[bitSize_ & 3U].Bin);
+}
+
+std::string TQORProgCalcEngine::Spaced(const std::string& s) const
+{
+    const int width = kGroupWidths[baseDisplay_ & 3U][spacing_ & 3U];
+    return width == 0 ? s : GroupSpacing(s, width, ' ');
+}
+
+std::string TQORProgCalcEngine::DisplayValue(std::int64_t v) const
+{
+    const std::string hex16 = PadChLeftStr(Int2EHex(v), '0', 16);
+    std::string s;
+    switch (baseDisplay_) {
+    case bdBinary:
+        s = BinFromHex(hex16);
+        break;
+    // Octal comes from the full 64-bit pattern, so a negative value at a small size shows the
+    // bits above the size that its top digit covers (-1 at 8 bits is "777"). Intended.
+    case bdOctal:
+        s = OctFromHex(hex16);
+        break;
+    case bdDecimal:
+        s = LeftStr(Int2EStr(v), maxDisplayLength_);
+        break;
+    default:
+        s = CutHex(v);
+        break;
+    }
+    return Spaced(s);
+}
+
+std::string TQORProgCalcEngine::CurrentText() const
+{
+    switch (baseDisplay_) {
+    case bdBinary:
+        return binText_;
+    case bdOctal:
+        return octText_;
+    case bdDecimal:
+        return DisplayValue(value_);
+    default:
+        return hexText_;
+    }
+}
+
+void TQORProgCalcEngine::SetDisplayValue0() { SetDisplayValue(DisplayValue(0)); }
+
+void TQORProgCalcEngine::SetDisplayValue(const std::string& s)
+{
+    display_ = s;
+    Notify(onDisplayChange_);
+}
+
+std::string TQORProgCalcEngine::GetDisplayStr() const
+{
+    const std::string error = rsErrorMsg();
+    if (display_ == error)
+        return display_;
+    std::string s = RemoveGroupSpacing(display_, ' ');
+    if (s.empty())
+        s = RemoveGroupSpacing(DisplayValue(0), ' ');
+    return Spaced(s);
+}
+
+void TQORProgCalcEngine::UpdateValues()
+{
+    int hexChars = 0;
+    int octChars = 0;
+    int binChars = 0;
+    GetNoChars(hexChars, octChars, binChars);
+    const std::string hex = RightStr(EntryToHex(entry_, baseDisplay_), hexChars);
+    hexText_ = RightStr(PadChLeftStr(hex, '0', 16), hexChars);
+    octText_ = OctFromHex(hexText_);
+    binText_ = BinFromHex(hexText_);
+    value_ = Hex2Int64(hexText_);
+}
+
+void TQORProgCalcEngine::ConvertValues(std::int64_t v)
+{
+    value_ = v;
+    hexText_ = CutHex(v);
+    octText_ = OctFromHex(hexText_);
+    binText_ = BinFromHex(hexText_);
+    SetDisplayValue(CurrentText());
+}
+
+void TQORProgCalcEngine::ChangeValues(TQORBaseDisplay oldBase, TQORBaseDisplay newBase)
+{
+    const std::string hex = EntryToHex(entry_, oldBase);
+    baseDisplay_ = newBase;
+    switch (newBase) {
+    case bdBinary:
+        entry_ = Hex2Bin(hex);
+        break;
+    case bdOctal:
+        entry_ = Hex2Oct(hex);
+        break;
+    case bdDecimal:
+        entry_ = DisplayValue(Hex2Int64(hex));
+        break;
+    default:
+        entry_ = hex;
+        break;
+    }
+}
+
+std::int64_t TQORProgCalcEngine::GetDisplayValue()
+{
+    UpdateValues();
+    if (!entry_.empty())
+        return value_;
+    return operandTop_ >= 0 ? operands_[static_cast<std::size_t>(operandTop_)] : 0;
+}
+
+std::string TQORProgCalcEngine::GetDisplayValueHex()
+{
+    UpdateValues();
+    std::string s;
+    if (!entry_.empty())
+        s = hexText_;
+    else if (operandTop_ >= 0)
+        s = Int2EHex(operands_[static_cast<std::size_t>(operandTop_)], 1);
+    const int width = kGroupWidths[bdHexadecimal][spacing_ & 3U];
+    return width == 0 ? s : GroupSpacing(s, width, ' ');
+}
+
+std::string TQORProgCalcEngine::GetDisplayValueOct()
+{
+    UpdateValues();
+    std::string s;
+    if (!entry_.empty())
+        s = octText_;
+    else if (operandTop_ >= 0)
+        s = Hex2Oct(Int2EHex(operands_[static_cast<std::size_t>(operandTop_)], 1));
+    const int width = kGroupWidths[bdOctal][spacing_ & 3U];
+    return width == 0 ? s : GroupSpacing(s, width, ' ');
+}
+
+std::string TQORProgCalcEngine::GetDisplayValueBin()
+{
+    UpdateValues();
+    std::string s;
+    if (!entry_.empty())
+        s = octText_; // the octal text during entry: intended, kept
+    else if (operandTop_ >= 0)
+        s = Hex2Bin(Int2EHex(operands_[static_cast<std::size_t>(operandTop_)], 1));
+    const int width = kGroupWidths[bdBinary][spacing_ & 3U];
+    return width == 0 ? s : GroupSpacing(s, width, ' ');
+}
+
+// ---- Entry ---------------------------------------------------------------------------------
+
+void TQORProgCalcEngine::Numeric(char ch)
+{
+    ch = static_cast<char>(std::toupper(static_cast<unsigned char>(ch)));
+    bool valid = false;
+    switch (baseDisplay_) {
+    case bdBinary:
+        valid = ch == '0' || ch == '1';
+        break;
+    case bdOctal:
+        valid = ch >= '0' && ch <= '7';
+        break;
+    case bdDecimal:
+        valid = (ch >= '0' && ch <= '9') || ch == '+' || ch == '-';
+        break;
+    default:
+        valid = (ch >= '0' && ch <= '9') || (ch >= 'A' && ch <= 'F');
+        break;
+    }
+    if (!valid)
+        return;
+
+    entry_ = StripLChStr(entry_, '0');
+    if (ch == '+' || ch == '-') {
+        entry_.insert(entry_.begin(), ch);
+    } else {
+        int hexChars = 0;
+        int octChars = 0;
+        int binChars = 0;
+        GetNoChars(hexChars, octChars, binChars);
+        int limit = hexChars;
+        switch (baseDisplay_) {
+        case bdBinary:
+            limit = binChars;
+            break;
+        case bdOctal:
+            limit = octChars;
+            break;
+        case bdDecimal:
+            limit = kMaxDecimalEntry;
+            break;
+        default:
+            break;
+        }
+        if (static_cast<int>(entry_.size()) < limit)
+            entry_ += ch;
+    }
+    // Sign clean-up: "--" and "-+" cancel, "+-" is a minus.
+    static constexpr std::array<std::pair<std::string_view, std::string_view>, 3> kSigns {
+        {{"--", ""}, {"-+", ""}, {"+-", "-"}}};
+    for (const auto& [from, to] : kSigns) {
+        for (std::size_t at = entry_.find(from); at != std::string::npos;
+             at = entry_.find(from, at + to.size()))
+            entry_.replace(at, from.size(), to);
+    }
+    SetDisplayValue(entry_);
+    lastKey_ = ch;
+}
+
+void TQORProgCalcEngine::InputDigit(char ch)
+{
+    Numeric(ch);
+    // A zero entry keeps just its sign and one zero; the display is left as typed.
+    if (GetDisplayValue() == 0)
+        entry_ = (!entry_.empty() && entry_.front() == '-') ? "-0" : "0";
+}
+
+void TQORProgCalcEngine::InputBackspace()
+{
+    if (entry_.empty())
+        return;
+    entry_.pop_back();
+    SetDisplayValue(entry_);
+}
+
+void TQORProgCalcEngine::InputString(const std::string& s)
+{
+    try {
+        entry_ = s;
+        UpdateValues();
+        entry_.clear();
+        PushOperandStack(value_);
+        lastKey_ = ' ';
+    } catch (const std::exception& e) {
+        HandleError(e.what());
+    }
+}
+
+void TQORProgCalcEngine::InputValue(std::int64_t v)
+{
+    ConvertValues(v);
+    entry_.clear();
+    PushOperandStack(v);
+    lastKey_ = ' ';
+    AddToHistory(display_);
+}
+
+void TQORProgCalcEngine::ClearDisplay()
+{
+    lastKey_ = ' ';
+    entry_.clear();
+    value_ = 0;
+    SetDisplayValue0();
+}
+
+void TQORProgCalcEngine::AllClear()
+{
+    operandTop_ = -1;
+    operatorTop_ = -1;
+    entry_.clear();
+    value_ = 0;
+    SetDisplayValue0();
+    lastError_.clear();
+    lastKey_ = ' ';
+    ClearHistory();
+}
+
+// ---- Stacks and evaluation -----------------------------------------------------------------
+
+void TQORProgCalcEngine::PushOperandStack(std::int64_t v)
+{
+    if (operandTop_ + 1 >= static_cast<std::int32_t>(operands_.size()))
+        operands_.resize(static_cast<std::size_t>(operandTop_) + 5);
+    operands_[static_cast<std::size_t>(++operandTop_)] = v;
+}
+
+void TQORProgCalcEngine::PushOperatorStack(char ch)
+{
+    if (operatorTop_ + 1 >= static_cast<std::int32_t>(operators_.size()))
+        operators_.resize(static_cast<std::size_t>(operatorTop_) + 5);
+    operators_[static_cast<std::size_t>(++operatorTop_)] = ch;
+}
+
+void TQORProgCalcEngine::SetSizeValueA(std::int64_t v)
+{
+    byteA_ = byteB_ = 0;
+    wordA_ = wordB_ = 0;
+    longA_ = longB_ = 0;
+    int64A_ = int64B_ = 0;
+    switch (bitSize_) {
+    case bs8Bits:
+        byteA_ = static_cast<std::int8_t>(v);
+        break;
+    case bs16Bits:
+        wordA_ = static_cast<std::int16_t>(v);
+        break;
+    case bs32Bits:
+        longA_ = static_cast<std::int32_t>(v);
+        break;
+    default:
+        int64A_ = v;
+        break;
+    }
+}
+
+void TQORProgCalcEngine::SetSizeValues()
+{
+    SetSizeValueA(operandTop_ >= 0 ? operands_[static_cast<std::size_t>(operandTop_)] : 0);
+    if (operandTop_ < 1)
+        return;
+    const std::int64_t b = operands_[static_cast<std::size_t>(operandTop_ - 1)];
+    switch (bitSize_) {
+    case bs8Bits:
+        byteB_ = static_cast<std::int8_t>(b);
+        break;
+    case bs16Bits:
+        wordB_ = static_cast<std::int16_t>(b);
+        break;
+    case bs32Bits:
+        longB_ = static_cast<std::int32_t>(b);
+        break;
+    default:
+        int64B_ = b;
+        break;
+    }
+}
+
+std::int64_t TQORProgCalcEngine::OperandA() const
+{
+    switch (bitSize_) {
+    case bs8Bits:
+        return byteA_;
+    case bs16Bits:
+        return wordA_;
+    case bs32Bits:
+        return longA_;
+    default:
+        return int64A_;
+    }
+}
+
+std::int64_t TQORProgCalcEngine::OperandB() const
+{
+    switch (bitSize_) {
+    case bs8Bits:
+        return byteB_;
+    case bs16Bits:
+        return wordB_;
+    case bs32Bits:
+        return longB_;
+    default:
+        return int64B_;
+    }
+}
+
+// B op A at the word size. 64 bits wrap in 64 bits; every smaller size works on the operands
+// widened to 32 bits and keeps the 32-bit result sign-extended, not cut to the word size.
+std::int64_t TQORProgCalcEngine::Compute(char op) const
+{
+    const std::int64_t a = OperandA();
+    const std::int64_t b = OperandB();
+    const bool division = op == '/' || op == '%';
+    if (bitSize_ == bs64Bits) {
+        if (division)
+            return DivideOrMod<std::int64_t>(op, b, a, false);
+        return static_cast<std::int64_t>(ApplyBitsAndSums<std::uint64_t>(
+            op, static_cast<std::uint64_t>(b), static_cast<std::uint64_t>(a)));
+    }
+    const auto a32 = static_cast<std::int32_t>(a);
+    const auto b32 = static_cast<std::int32_t>(b);
+    if (division)
+        return DivideOrMod<std::int32_t>(op, b32, a32, true);
+    return static_cast<std::int32_t>(ApplyBitsAndSums<std::uint32_t>(
+        op, static_cast<std::uint32_t>(b32), static_cast<std::uint32_t>(a32)));
+}
+
+bool TQORProgCalcEngine::HigherPrecedence(char newOp, char topOp) const
+{
+    if (precedence_ && (newOp == '*' || newOp == '/') && (topOp == '+' || topOp == '-'))
+        return true;
+    // MOD and XOR bind above multiplication: the chosen order, kept.
+    if (precedence_ && (newOp == '%' || newOp == '@' || newOp == '^')
+        && (topOp == '*' || topOp == '+' || topOp == '-' || topOp == '/'))
+        return true;
+    return topOp == '(' || Contains(kFunctionLetters, newOp);
+}
+
+void TQORProgCalcEngine::StackManipulation()
+{
+    SetSizeValues();
+    const char op = operators_[static_cast<std::size_t>(operatorTop_)];
+    if (Contains(kBinaryOperators, op) && operandTop_ >= 0) {
+        const auto top = static_cast<std::size_t>(operandTop_);
+        if (op == '/' || op == '%') {
+            // The processor's division fault covers a divisor whose word-size part is zero.
+            if (operands_[top] == 0 || OperandA() == 0)
+                throw EZeroDivide(rsDivideByZero());
+        }
+        const std::int64_t result = Compute(op);
+        // With a single operand the left-hand side is 0 and the result stays the only operand.
+        if (operandTop_ >= 1) {
+            operands_[top - 1] = result;
+            --operandTop_;
+        } else {
+            operands_[top] = result;
+        }
+    } else if (op == '~' && operandTop_ >= 0) {
+        operands_[static_cast<std::size_t>(operandTop_)] = ~OperandA();
+    }
+    --operatorTop_;
+}
+
+void TQORProgCalcEngine::UpdateValue()
+{
+    if (entry_.empty())
+        return;
+    UpdateValues();
+    PushOperandStack(value_);
+    AddToHistory(value_);
+    entry_.clear();
+}
+
+void TQORProgCalcEngine::ShowTopOperand()
+{
+    if (operandTop_ >= 0)
+        ConvertValues(operands_[static_cast<std::size_t>(operandTop_)]);
+    else
+        SetDisplayValue0();
+}
+
+void TQORProgCalcEngine::Arithmetic(char op)
+{
+    if (baseDisplay_ == bdDecimal && (op == '+' || op == '-')
+        && ((entry_.empty() && operandTop_ < 0) || Contains(kOperatorKeys, lastKey_)
+            || Contains(kFunctionLetters, lastKey_))) {
+        Numeric(op); // a sign of the number being typed
+        return;
+    }
+    try {
+        UpdateValue();
+        while (operatorTop_ >= 0
+               && !HigherPrecedence(op, operators_[static_cast<std::size_t>(operatorTop_)]))
+            StackManipulation();
+        PushOperatorStack(op);
+        ShowTopOperand();
+    } catch (const std::exception& e) {
+        HandleError(e.what());
+    }
+    AddToHistory(OperatorHistoryText(op));
+    lastKey_ = op;
+}
+
+void TQORProgCalcEngine::DoResult()
+{
+    try {
+        UpdateValue();
+        while (operatorTop_ >= 0)
+            StackManipulation();
+        if (operandTop_ > 0) {
+            operands_[0] = operands_[static_cast<std::size_t>(operandTop_)];
+            operandTop_ = 0;
+        }
+        if (operandTop_ < 0) {
+            if (display_.find(rsErrorMsg()) == std::string::npos)
+                SetDisplayValue0();
+        } else {
+            ConvertValues(operands_[0]);
+        }
+    } catch (const std::exception& e) {
+        HandleError(e.what());
+    }
+}
+
+void TQORProgCalcEngine::DoEquals()
+{
+    DoResult();
+    AddToHistory(std::string("="));
+    AddToHistory(display_);
+    lastKey_ = '=';
+}
+
+void TQORProgCalcEngine::InputLeftBracket()
+{
+    // A lone decimal sign before a bracket means -1 times the bracket.
+    if (entry_ == "-") {
+        InputDigit('1');
+        DoMultiply();
+    }
+    entry_.clear();
+    PushOperatorStack('(');
+    ShowTopOperand();
+    AddToHistory(std::string("("));
+    lastKey_ = '(';
+}
+
+void TQORProgCalcEngine::InputRightBracket()
+{
+    try {
+        UpdateValue();
+        while (operatorTop_ >= 0 && operators_[static_cast<std::size_t>(operatorTop_)] != '(')
+            StackManipulation();
+        if (operatorTop_ >= 0)
+            --operatorTop_;
+        ShowTopOperand();
+    } catch (const std::exception& e) {
+        HandleError(e.what());
+    }
+    AddToHistory(std::string(")"));
+    lastKey_ = ')';
+}
+
+void TQORProgCalcEngine::HandleError(const std::string& message)
+{
+    AllClear();
+    SetDisplayValue(rsErrorMsg());
+    lastError_ = message;
+    AddToHistory(rsPaperErrLine());
+    Notify(onError_);
+}
+
+void TQORProgCalcEngine::Notify(const TQORProgCalcNotifyEvent& handler)
+{
+    if (handler)
+        handler(this);
+}
+
+// ---- One-operand keys ----------------------------------------------------------------------
+
+void TQORProgCalcEngine::UnaryKey(const std::function<std::int64_t(std::int64_t)>& compute,
+                                  const std::string& historyLine)
+{
+    try {
+        std::int64_t result = 0;
+        if (!entry_.empty()) {
+            UpdateValues();
+            const std::int64_t operand = value_;
+            AddToHistory(operand);
+            result = compute(operand);
+        } else if (operandTop_ >= 0) {
+            result = compute(operands_[static_cast<std::size_t>(operandTop_)]);
+        }
+        value_ = result;
+        ConvertValues(result);
+        entry_.clear();
+        // The result goes on top of the operand it came from: a pending two-operand operator
+        // takes both (5 + NEG = gives 0). Kept.
+        PushOperandStack(result);
+    } catch (const std::exception& e) {
+        HandleError(e.what());
+    }
+    AddToHistory(historyLine);
+    lastKey_ = ' ';
+}
+
+void TQORProgCalcEngine::DoNeg()
+{
+    UnaryKey(
+        [](std::int64_t v) {
+            return static_cast<std::int64_t>(0U - static_cast<std::uint64_t>(v));
+        },
+        rsNEGPaper());
+}
+
+void TQORProgCalcEngine::DoNot()
+{
+    if (prefixFunctions_) {
+        // Prefix NOT: applied to the operand that follows, at the next evaluation.
+        entry_.clear();
+        PushOperatorStack('~');
+        AddToHistory(rsNOTPaper());
+        ShowTopOperand();
+        lastKey_ = ' ';
+        return;
+    }
+    UnaryKey(
+        [this](std::int64_t v) {
+            SetSizeValueA(v);
+            return ~OperandA();
+        },
+        rsNOTPaper());
+}
+
+void TQORProgCalcEngine::ShiftKey(std::int64_t (*compute)(std::int64_t, int bits, int count),
+                                  const std::string& word, std::int32_t count)
+{
+    const int n = std::clamp(count, 1, 64);
+    UnaryKey(
+        [this, compute, n](std::int64_t v) {
+            SetSizeValueA(v);
+            return compute(OperandA(), BitSizeBits(bitSize_), n);
+        },
+        word + " " + std::to_string(n));
+}
+
+void TQORProgCalcEngine::DoShl(std::int32_t count) { ShiftKey(ShiftLeft, rsSHLPaper(), count); }
+void TQORProgCalcEngine::DoShr(std::int32_t count) { ShiftKey(ShiftRight, rsSHRPaper(), count); }
+void TQORProgCalcEngine::DoRol(std::int32_t count) { ShiftKey(RotateLeft, rsROLPaper(), count); }
+void TQORProgCalcEngine::DoRor(std::int32_t count) { ShiftKey(RotateRight, rsRORPaper(), count); }
+
+std::int64_t TQORProgCalcEngine::ComputeAbs(std::int64_t v) noexcept
+{
+    return v >= 0 ? v : static_cast<std::int64_t>(0U - static_cast<std::uint64_t>(v));
+}
+
+// ---- Base, size and spacing ----------------------------------------------------------------
+
+bool TQORProgCalcEngine::OperatorPending() const { return Contains(kOperatorKeys, lastKey_); }
+
+void TQORProgCalcEngine::SetBaseDisplay(TQORBaseDisplay value)
+{
+    if (value == baseDisplay_)
+        return;
+    const bool pending = OperatorPending();
+    if (!pending)
+        DoResult();
+    entry_ = display_ == rsErrorMsg() ? std::string() : display_;
+    if (pending) {
+        entry_.clear();
+        display_.clear();
+    } else {
+        ChangeValues(baseDisplay_, value);
+    }
+    baseDisplay_ = value;
+    Notify(onBaseDisplayChange_);
+    UpdateValues();
+    if (value == bdDecimal) {
+        // Decimal always works at 64 bits with signed values.
+        bitSize_ = bs64Bits;
+        Notify(onBitSizeChange_);
+    }
+    if (!pending)
+        SetDisplayValue(CurrentText());
+    static constexpr std::array<std::string (*)(), 4> kBaseNames {rsComboBin, rsComboDec,
+                                                                  rsComboHex, rsComboOct};
+    AddToHistory(kBaseNames[value & 3U]());
+    Notify(onMemoryChange_);
+}
+
+void TQORProgCalcEngine::SetBaseDisplay2(TQORBaseDisplay value)
+{
+    if (value == baseDisplay_)
+        return;
+    DoResult();
+    entry_ = display_ == rsErrorMsg() ? std::string() : display_;
+    ChangeValues(baseDisplay_, value);
+    baseDisplay_ = value;
+    UpdateValues();
+    SetDisplayValue(CurrentText());
+}
+
+// Extend moves the old sign bit to the new top position and leaves the other bits as they
+// are (8 to 16 bits: 80 becomes 8000, FF becomes 807F). This is the meaning of "Extend".
+void TQORProgCalcEngine::ExtendSignBit()
+{
+    if (binText_.size() <= 1 || binText_.front() != '1')
+        return;
+    int hexChars = 0;
+    int octChars = 0;
+    int binChars = 0;
+    GetNoChars(hexChars, octChars, binChars);
+    std::string bits = binText_;
+    bits.front() = '0';
+    hexText_ = RightStr(Bin2Hex(bits), hexChars);
+    binText_ = BinFromHex(hexText_);
+    binText_.front() = '1';
+    hexText_ = RightStr(PadChLeftStr(RightStr(Bin2Hex(binText_), hexChars), '0', 16), hexChars);
+    octText_ = OctFromHex(hexText_);
+    value_ = Hex2Int64(hexText_);
+    if (operandTop_ < 0)
+        entry_ = baseDisplay_ == bdDecimal ? Int2EStr(value_) : CurrentText();
+    else
+        operands_[static_cast<std::size_t>(operandTop_)] = value_;
+}
+
+void TQORProgCalcEngine::SetBitSize(TQORBitSize value)
+{
+    if (value == bitSize_)
+        return;
+    bitSize_ = value;
+    Notify(onBitSizeChange_);
+    switch (sizeChange_) {
+    case pscClear:
+        AllClear();
+        break;
+    case pscExtend:
+        ExtendSignBit();
+        break;
+    default:
+        break; // truncate: the result below is cut to the new size
+    }
+    static constexpr std::array<std::string (*)(), 4> kSizeNames {rsCombo8Bits, rsCombo16Bits,
+                                                                  rsCombo32Bits, rsCombo64Bits};
+    AddToHistory(kSizeNames[value & 3U]());
+    SetDisplayValue(CurrentText());
+    Notify(onMemoryChange_);
+    // Completes any half-entered expression at the new width.
+    DoResult();
+}
+
+void TQORProgCalcEngine::SetBitSize2(TQORBitSize value)
+{
+    if (value == bitSize_)
+        return;
+    bitSize_ = value;
+    SetDisplayValue(CurrentText());
+    DoResult();
+}
+
+void TQORProgCalcEngine::SetSpacing(TQORProgSpacing value)
+{
+    if (value == spacing_)
+        return;
+    spacing_ = value;
+    Notify(onSpacingChange_);
+    switch (baseDisplay_) {
+    case bdBinary:
+        SetDisplayValue(GetDisplayValueBin());
+        break;
+    case bdOctal:
+        SetDisplayValue(GetDisplayValueOct());
+        break;
+    case bdDecimal:
+        SetDisplayValue(DisplayValue(value_));
+        break;
+    default:
+        SetDisplayValue(GetDisplayValueHex());
+        break;
+    }
+    Notify(onMemoryChange_);
+    DoResult();
+}
+
+std::string TQORProgCalcEngine::GetBaseDisplayStr() const
+{
+    switch (baseDisplay_) {
+    case bdBinary:
+        return rsComboBin();
+    case bdDecimal:
+        return rsComboDec();
+    default:
+        return rsComboHex(); // octal answers "Hex" too: intended, kept
+    }
+}
+
+std::string TQORProgCalcEngine::GetBitSizeStr() const
+{
+    switch (bitSize_) {
+    case bs8Bits:
+        return rsCombo8Bits();
+    case bs16Bits:
+        return rsCombo16Bits();
+    case bs32Bits:
+        return rsCombo32Bits();
+    default:
+        return rsCombo64Bits();
+    }
+}
+
+std::string TQORProgCalcEngine::GetSpacingStr() const
+{
+    switch (spacing_) {
+    case psByte:
+        return rsSpacingByte();
+    case psWord:
+        return rsSpacingWord();
+    case psDWord:
+        return rsSpacingDWord();
+    default:
+        return rsSpacingNone();
+    }
+}
+
+std::string TQORProgCalcEngine::GetSizeChangeStr() const
+{
+    switch (sizeChange_) {
+    case pscTruncate:
+        return rsChangeTruncate();
+    case pscExtend:
+        return rsChangeExtend();
+    default:
+        return rsChangeClear();
+    }
+}
+
+// ---- Memory --------------------------------------------------------------------------------
+
+void TQORProgCalcEngine::MemoryHistoryLine()
+{
+    if (memoryHistory_)
+        AddToHistory("[" + rsMemoryHistoryPrefix() + DisplayValue(memory_) + " ]");
+}
+
+void TQORProgCalcEngine::MemoryChange(bool add)
+{
+    DoResult();
+    if (operandTop_ >= 0) {
+        const auto top
+            = static_cast<std::uint64_t>(operands_[static_cast<std::size_t>(operandTop_)]);
+        const auto memory = static_cast<std::uint64_t>(memory_);
+        memory_ = static_cast<std::int64_t>(add ? memory + top : memory - top);
+    }
+    AddToHistory(add ? rsMemAddPaper() : rsMemSubPaper());
+    MemoryHistoryLine();
+    Notify(onMemoryChange_);
+}
+
+void TQORProgCalcEngine::MemoryAdd() { MemoryChange(true); }
+void TQORProgCalcEngine::MemorySubtract() { MemoryChange(false); }
+
+void TQORProgCalcEngine::MemoryClear()
+{
+    memory_ = 0;
+    AddToHistory(rsMemClrPaper());
+    MemoryHistoryLine();
+    Notify(onMemoryChange_);
+}
+
+void TQORProgCalcEngine::MemoryRecall()
+{
+    ConvertValues(memory_);
+    entry_.clear();
+    PushOperandStack(memory_);
+    AddToHistory(rsMemRecPaper());
+    MemoryHistoryLine();
+}
+
+void TQORProgCalcEngine::SetMemory(std::int64_t v)
+{
+    memory_ = v;
+    Notify(onMemoryChange_);
+}
+
+// ---- History -------------------------------------------------------------------------------
+
+void TQORProgCalcEngine::AddToHistory(const std::string& s)
+{
+    history_.push_back(s);
+    Notify(onHistoryChange_);
+}
+
+void TQORProgCalcEngine::AddToHistory(std::int64_t v) { AddToHistory(DisplayValue(v)); }
+
+void TQORProgCalcEngine::PaperLine() { AddToHistory(rsPaperLine()); }
+
+void TQORProgCalcEngine::ClearHistory()
+{
+    history_.clear();
+    historyPosition_ = -1;
+}
+
+std::string TQORProgCalcEngine::GetNextHistoryEntry()
+{
+    if (history_.empty() || historyPosition_ >= GetHistoryLength() - 1)
+        return {};
+    historyPosition_ = std::max(historyPosition_, -1) + 1;
+    return history_[static_cast<std::size_t>(historyPosition_)];
+}
+
+// Lines keep the spacing of the moment they were written; they are shown in the current one.
+// Words are regrouped too.
+std::string TQORProgCalcEngine::GetHistoryEntry(std::uint16_t index) const
+{
+    if (index >= history_.size())
+        return {};
+    return Spaced(RemoveGroupSpacing(history_[index], ' '));
+}
+
+std::string TQORProgCalcEngine::GetLastHistoryEntry() const
+{
+    if (history_.empty())
+        return {};
+    const std::string& line = history_.back();
+    if (line.empty() || !std::isxdigit(static_cast<unsigned char>(line.front())))
+        return line;
+    for (auto sizeName : {rsCombo8Bits, rsCombo16Bits, rsCombo32Bits, rsCombo64Bits})
+        if (line == sizeName())
+            return line;
+    return Spaced(RemoveGroupSpacing(line, ' '));
+}
+
+std::int32_t TQORProgCalcEngine::GetHistoryLength() const
+{
+    return static_cast<std::int32_t>(history_.size());
+}
+
+} // namespace qorkit

@@ -1,0 +1,346 @@
+// The programmer's calculator engine: a keystroke-driven calculator over signed 64-bit integers,
+// shown in binary, octal, decimal or hexadecimal at a word size of 8, 16, 32 or 64 bits, with
+// bitwise operators, shifts, rotates, a memory register and a history of lines.
+//
+// Owners drive the engine through IQORProgCalcEngine, held by std::shared_ptr:
+//
+//   std::shared_ptr<IQORProgCalcEngine> engine = std::make_shared<TQORProgCalcEngine>();
+//   engine->InputDigit('7'); engine->InputDigit('F'); engine->DoAdd(); ...
+//
+// A failure inside an operation never leaves it: the engine clears itself, shows "Error!",
+// keeps the message for GetLastError, writes the error line to the history and calls OnError.
+#pragma once
+
+#include "QORKITTypes.h"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace qorkit {
+
+class IQORProgCalcEngine;
+
+// Notification handler; the argument is the engine that sends it.
+using TQORProgCalcNotifyEvent = std::function<void(IQORProgCalcEngine* sender)>;
+
+class IQORProgCalcEngine {
+public:
+    virtual ~IQORProgCalcEngine() = default;
+
+    // Display and value.
+    virtual std::string GetDisplayStr() const = 0;
+    virtual std::int64_t GetDisplayValue() = 0;
+    virtual std::string GetDisplayValueHex() = 0;
+    virtual std::string GetDisplayValueOct() = 0;
+    virtual std::string GetDisplayValueBin() = 0;
+    virtual std::string GetLastError() const = 0;
+
+    // Entry.
+    virtual void InputString(const std::string& s) = 0;
+    virtual void InputValue(std::int64_t v) = 0;
+    virtual void InputDigit(char ch) = 0;
+    virtual void InputBackspace() = 0;
+    virtual void InputLeftBracket() = 0;
+    virtual void InputRightBracket() = 0;
+
+    // Evaluation and two-operand operators.
+    virtual void DoResult() = 0;
+    virtual void DoEquals() = 0;
+    virtual void DoAdd() = 0;
+    virtual void DoSubtract() = 0;
+    virtual void DoMultiply() = 0;
+    virtual void DoDivide() = 0;
+    virtual void DoMod() = 0;
+    virtual void DoAnd() = 0;
+    virtual void DoOr() = 0;
+    virtual void DoXor() = 0;
+    virtual void DoXnor() = 0;
+    virtual void DoNor() = 0;
+    virtual void DoNand() = 0;
+
+    // One-operand keys.
+    virtual void DoNeg() = 0;
+    virtual void DoNot() = 0;
+    virtual void DoShl(std::int32_t count) = 0;
+    virtual void DoShr(std::int32_t count) = 0;
+    virtual void DoRol(std::int32_t count) = 0;
+    virtual void DoRor(std::int32_t count) = 0;
+
+    // Modes.
+    virtual void SetBaseDisplay(TQORBaseDisplay value) = 0;
+    virtual void SetBaseDisplay2(TQORBaseDisplay value) = 0;
+    virtual TQORBaseDisplay GetBaseDisplay() const = 0;
+    virtual std::string GetBaseDisplayStr() const = 0;
+    virtual void SetBitSize(TQORBitSize value) = 0;
+    virtual void SetBitSize2(TQORBitSize value) = 0;
+    virtual TQORBitSize GetBitSize() const = 0;
+    virtual std::string GetBitSizeStr() const = 0;
+    virtual void SetSpacing(TQORProgSpacing value) = 0;
+    virtual TQORProgSpacing GetSpacing() const = 0;
+    virtual std::string GetSpacingStr() const = 0;
+    virtual void SetSizeChange(TQORProgSizeChange value) = 0;
+    virtual TQORProgSizeChange GetSizeChange() const = 0;
+    virtual std::string GetSizeChangeStr() const = 0;
+
+    // Clearing and memory.
+    virtual void AllClear() = 0;
+    virtual void ClearDisplay() = 0;
+    virtual void MemoryClear() = 0;
+    virtual void MemoryAdd() = 0;
+    virtual void MemorySubtract() = 0;
+    virtual void MemoryRecall() = 0;
+    virtual void SetMemory(std::int64_t v) = 0;
+    virtual std::string GetMemoryContents() const = 0;
+    virtual std::int64_t GetMemoryValue() const = 0;
+
+    // Switches.
+    virtual void SetPrefixFunctions(bool value) = 0;
+    virtual bool GetPrefixFunctions() const = 0;
+    virtual void SetPrecedence(bool value) = 0;
+    virtual bool GetPrecedence() const = 0;
+    virtual void SetMemoryHistory(bool value) = 0;
+    virtual bool GetMemoryHistory() const = 0;
+
+    // History.
+    virtual void ClearHistory() = 0;
+    virtual void HistoryStart() = 0;
+    virtual std::string GetNextHistoryEntry() = 0;
+    virtual std::string GetHistoryEntry(std::uint16_t index) const = 0;
+    virtual std::string GetLastHistoryEntry() const = 0;
+    virtual std::int32_t GetHistoryLength() const = 0;
+    virtual std::int32_t GetHistoryPosition() const = 0;
+    virtual void SetHistoryPosition(std::int32_t value) = 0;
+    virtual void PaperLine() = 0;
+
+    virtual std::uint8_t GetMaxDisplayLength() const = 0;
+    virtual void SetMaxDisplayLength(std::uint8_t value) = 0;
+
+    // Notifications, each called only when assigned.
+    virtual TQORProgCalcNotifyEvent GetOnHistoryChange() const = 0;
+    virtual void SetOnHistoryChange(TQORProgCalcNotifyEvent handler) = 0;
+    virtual TQORProgCalcNotifyEvent GetOnDisplayChange() const = 0;
+    virtual void SetOnDisplayChange(TQORProgCalcNotifyEvent handler) = 0;
+    virtual TQORProgCalcNotifyEvent GetOnError() const = 0;
+    virtual void SetOnError(TQORProgCalcNotifyEvent handler) = 0;
+    virtual TQORProgCalcNotifyEvent GetOnMemoryChange() const = 0;
+    virtual void SetOnMemoryChange(TQORProgCalcNotifyEvent handler) = 0;
+    virtual TQORProgCalcNotifyEvent GetOnBaseDisplayChange() const = 0;
+    virtual void SetOnBaseDisplayChange(TQORProgCalcNotifyEvent handler) = 0;
+    virtual TQORProgCalcNotifyEvent GetOnBitSizeChange() const = 0;
+    virtual void SetOnBitSizeChange(TQORProgCalcNotifyEvent handler) = 0;
+    virtual TQORProgCalcNotifyEvent GetOnSpacingChange() const = 0;
+    virtual void SetOnSpacingChange(TQORProgCalcNotifyEvent handler) = 0;
+    virtual TQORProgCalcNotifyEvent GetOnSizeChangeChange() const = 0;
+    virtual void SetOnSizeChangeChange(TQORProgCalcNotifyEvent handler) = 0;
+};
+
+class TQORProgCalcEngine final : public IQORProgCalcEngine {
+public:
+    // A new engine works in hexadecimal at 64 bits, without spacing, clearing on size changes,
+    // with precedence and prefix NOT on (properties Precedence, PrefixFunctions), memory lines
+    // off (MemoryHistory) and MaxDisplayLength 26. Its display text is "00000000" until the
+    // owner refreshes it: the zero display is formed before base and size are set.
+    TQORProgCalcEngine();
+
+    std::string GetDisplayStr() const override;
+    std::int64_t GetDisplayValue() override;
+    std::string GetDisplayValueHex() override;
+    std::string GetDisplayValueOct() override;
+    // Returns the octal text while an entry is in progress; intended, kept for compatibility.
+    std::string GetDisplayValueBin() override;
+    std::string GetLastError() const override { return lastError_; }
+
+    void InputString(const std::string& s) override;
+    void InputValue(std::int64_t v) override;
+    void InputDigit(char ch) override;
+    void InputBackspace() override;
+    void InputLeftBracket() override;
+    void InputRightBracket() override;
+
+    void DoResult() override;
+    void DoEquals() override;
+    void DoAdd() override { Arithmetic('+'); }
+    void DoSubtract() override { Arithmetic('-'); }
+    void DoMultiply() override { Arithmetic('*'); }
+    void DoDivide() override { Arithmetic('/'); }
+    void DoMod() override { Arithmetic('%'); }
+    void DoAnd() override { Arithmetic('&'); }
+    void DoOr() override { Arithmetic('|'); }
+    void DoXor() override { Arithmetic('^'); }
+    void DoXnor() override { Arithmetic('!'); }
+    void DoNor() override { Arithmetic('?'); }
+    void DoNand() override { Arithmetic('#'); }
+
+    void DoNeg() override;
+    void DoNot() override;
+    void DoShl(std::int32_t count) override;
+    void DoShr(std::int32_t count) override;
+    void DoRol(std::int32_t count) override;
+    void DoRor(std::int32_t count) override;
+
+    void SetBaseDisplay(TQORBaseDisplay value) override;
+    void SetBaseDisplay2(TQORBaseDisplay value) override;
+    TQORBaseDisplay GetBaseDisplay() const override { return baseDisplay_; }
+    // Answers "Hex" for the octal base too; intended, kept for compatibility.
+    std::string GetBaseDisplayStr() const override;
+    void SetBitSize(TQORBitSize value) override;
+    void SetBitSize2(TQORBitSize value) override;
+    TQORBitSize GetBitSize() const override { return bitSize_; }
+    std::string GetBitSizeStr() const override;
+    void SetSpacing(TQORProgSpacing value) override;
+    TQORProgSpacing GetSpacing() const override { return spacing_; }
+    std::string GetSpacingStr() const override;
+    // Stores the mode only; no notification.
+    void SetSizeChange(TQORProgSizeChange value) override { sizeChange_ = value; }
+    TQORProgSizeChange GetSizeChange() const override { return sizeChange_; }
+    std::string GetSizeChangeStr() const override;
+
+    void AllClear() override;
+    void ClearDisplay() override;
+    void MemoryClear() override;
+    void MemoryAdd() override;
+    void MemorySubtract() override;
+    void MemoryRecall() override;
+    void SetMemory(std::int64_t v) override;
+    std::string GetMemoryContents() const override { return DisplayValue(memory_); }
+    std::int64_t GetMemoryValue() const override { return memory_; }
+
+    void SetPrefixFunctions(bool value) override { prefixFunctions_ = value; }
+    bool GetPrefixFunctions() const override { return prefixFunctions_; }
+    void SetPrecedence(bool value) override { precedence_ = value; }
+    bool GetPrecedence() const override { return precedence_; }
+    void SetMemoryHistory(bool value) override { memoryHistory_ = value; }
+    bool GetMemoryHistory() const override { return memoryHistory_; }
+
+    void ClearHistory() override;
+    void HistoryStart() override { historyPosition_ = -1; }
+    std::string GetNextHistoryEntry() override;
+    std::string GetHistoryEntry(std::uint16_t index) const override;
+    std::string GetLastHistoryEntry() const override;
+    std::int32_t GetHistoryLength() const override;
+    std::int32_t GetHistoryPosition() const override { return historyPosition_; }
+    void SetHistoryPosition(std::int32_t value) override { historyPosition_ = value; }
+    void PaperLine() override;
+
+    std::uint8_t GetMaxDisplayLength() const override { return maxDisplayLength_; }
+    void SetMaxDisplayLength(std::uint8_t value) override { maxDisplayLength_ = value; }
+
+    TQORProgCalcNotifyEvent GetOnHistoryChange() const override { return onHistoryChange_; }
+    void SetOnHistoryChange(TQORProgCalcNotifyEvent h) override { onHistoryChange_ = std::move(h); }
+    TQORProgCalcNotifyEvent GetOnDisplayChange() const override { return onDisplayChange_; }
+    void SetOnDisplayChange(TQORProgCalcNotifyEvent h) override { onDisplayChange_ = std::move(h); }
+    TQORProgCalcNotifyEvent GetOnError() const override { return onError_; }
+    void SetOnError(TQORProgCalcNotifyEvent h) override { onError_ = std::move(h); }
+    TQORProgCalcNotifyEvent GetOnMemoryChange() const override { return onMemoryChange_; }
+    void SetOnMemoryChange(TQORProgCalcNotifyEvent h) override { onMemoryChange_ = std::move(h); }
+    TQORProgCalcNotifyEvent GetOnBaseDisplayChange() const override { return onBaseDisplayChange_; }
+    void SetOnBaseDisplayChange(TQORProgCalcNotifyEvent h) override
+    {
+        onBaseDisplayChange_ = std::move(h);
+    }
+    TQORProgCalcNotifyEvent GetOnBitSizeChange() const override { return onBitSizeChange_; }
+    void SetOnBitSizeChange(TQORProgCalcNotifyEvent h) override { onBitSizeChange_ = std::move(h); }
+    TQORProgCalcNotifyEvent GetOnSpacingChange() const override { return onSpacingChange_; }
+    void SetOnSpacingChange(TQORProgCalcNotifyEvent h) override { onSpacingChange_ = std::move(h); }
+    // Never raised by the engine itself; kept for owners that share one handler table.
+    TQORProgCalcNotifyEvent GetOnSizeChangeChange() const override { return onSizeChangeChange_; }
+    void SetOnSizeChangeChange(TQORProgCalcNotifyEvent h) override
+    {
+        onSizeChangeChange_ = std::move(h);
+    }
+
+    // Appends a line, or a value formatted for the current base, size and spacing.
+    void AddToHistory(const std::string& s);
+    void AddToHistory(std::int64_t v);
+    // v when v >= 0, else -v in 64 bits (the smallest int64 stays itself).
+    static std::int64_t ComputeAbs(std::int64_t v) noexcept;
+    // Digit counts of the current word size.
+    void GetNoChars(int& hexChars, int& octChars, int& binChars) const;
+    // The value as the display shows it in the current base, size and spacing.
+    std::string DisplayValue(std::int64_t v) const;
+
+private:
+    void Numeric(char ch);
+    void Arithmetic(char op);
+    bool HigherPrecedence(char newOp, char topOp) const;
+    void StackManipulation();
+    void UpdateValue();
+    void UpdateValues();
+    void ChangeValues(TQORBaseDisplay oldBase, TQORBaseDisplay newBase);
+    void ConvertValues(std::int64_t v);
+    void SetDisplayValue(const std::string& s);
+    void SetDisplayValue0();
+    void SetSizeValues();
+    void SetSizeValueA(std::int64_t v);
+    void PushOperandStack(std::int64_t v);
+    void PushOperatorStack(char ch);
+
+    // Helpers of the steps above.
+    std::int64_t OperandA() const;
+    std::int64_t OperandB() const;
+    std::int64_t Compute(char op) const;
+    void UnaryKey(const std::function<std::int64_t(std::int64_t)>& compute,
+                  const std::string& historyLine);
+    void ShiftKey(std::int64_t (*compute)(std::int64_t, int bits, int count),
+                  const std::string& word, std::int32_t count);
+    void ExtendSignBit();
+    void MemoryChange(bool add);
+    void MemoryHistoryLine();
+    void ShowTopOperand();
+    void HandleError(const std::string& message);
+    void Notify(const TQORProgCalcNotifyEvent& handler);
+    std::string CurrentText() const;
+    std::string OctFromHex(const std::string& hex) const;
+    std::string BinFromHex(const std::string& hex) const;
+    std::string CutHex(std::int64_t v) const;
+    std::string Spaced(const std::string& s) const;
+    bool OperatorPending() const;
+
+    // Operand slots, loaded with the word-size parts of the two top operands before each
+    // evaluation step (A the right-hand operand, B the left-hand one).
+    std::int8_t byteA_ = 0;
+    std::int8_t byteB_ = 0;
+    std::int16_t wordA_ = 0;
+    std::int16_t wordB_ = 0;
+    std::int32_t longA_ = 0;
+    std::int32_t longB_ = 0;
+    std::int64_t int64A_ = 0;
+    std::int64_t int64B_ = 0;
+
+    std::string entry_; // characters typed since the last operator or result
+    std::int64_t value_ = 0;
+    std::string hexText_; // the value in base 16, 8 and 2, cut and zero-filled to the size
+    std::string octText_;
+    std::string binText_;
+    std::string display_;
+    std::string lastError_;
+    char lastKey_ = ' '; // " ": nothing pending
+    TQORBaseDisplay baseDisplay_ = bdBinary;
+    TQORBitSize bitSize_ = bs8Bits;
+    TQORProgSpacing spacing_ = psNoSpacing;
+    TQORProgSizeChange sizeChange_ = pscClear;
+    std::int64_t memory_ = 0;
+    std::int32_t operandTop_ = -1;
+    TQORInt64Vector operands_;
+    std::int32_t operatorTop_ = -1;
+    std::vector<char> operators_;
+    bool prefixFunctions_ = false;
+    bool precedence_ = false;
+    bool memoryHistory_ = false;
+    std::vector<std::string> history_;
+    std::int32_t historyPosition_ = -1;
+    std::uint8_t maxDisplayLength_ = 0;
+
+    TQORProgCalcNotifyEvent onHistoryChange_;
+    TQORProgCalcNotifyEvent onDisplayChange_;
+    TQORProgCalcNotifyEvent onError_;
+    TQORProgCalcNotifyEvent onMemoryChange_;
+    TQORProgCalcNotifyEvent onBaseDisplayChange_;
+    TQORProgCalcNotifyEvent onBitSizeChange_;
+    TQORProgCalcNotifyEvent onSpacingChange_;
+    TQORProgCalcNotifyEvent onSizeChangeChange_;
+};
+
+} // namespace qorkit

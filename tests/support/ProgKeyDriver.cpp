@@ -1,0 +1,167 @@
+#include "ProgKeyDriver.h"
+
+#include <cctype>
+#include <functional>
+#include <stdexcept>
+#include <utility>
+
+namespace qorkit::test {
+
+namespace {
+
+using Action = std::function<void(IQORProgCalcEngine&)>;
+
+const std::map<char, Action>& CharKeys()
+{
+    static const std::map<char, Action> keys {
+        {'+', [](IQORProgCalcEngine& e) { e.DoAdd(); }},
+        {'-', [](IQORProgCalcEngine& e) { e.DoSubtract(); }},
+        {'*', [](IQORProgCalcEngine& e) { e.DoMultiply(); }},
+        {'/', [](IQORProgCalcEngine& e) { e.DoDivide(); }},
+        {'%', [](IQORProgCalcEngine& e) { e.DoMod(); }},
+        {'&', [](IQORProgCalcEngine& e) { e.DoAnd(); }},
+        {'|', [](IQORProgCalcEngine& e) { e.DoOr(); }},
+        {'^', [](IQORProgCalcEngine& e) { e.DoXor(); }},
+        {'#', [](IQORProgCalcEngine& e) { e.DoNand(); }},
+        {'?', [](IQORProgCalcEngine& e) { e.DoNor(); }},
+        {'!', [](IQORProgCalcEngine& e) { e.DoXnor(); }},
+        {'~', [](IQORProgCalcEngine& e) { e.DoNot(); }},
+        {'_', [](IQORProgCalcEngine& e) { e.DoNeg(); }},
+        {'<', [](IQORProgCalcEngine& e) { e.DoShl(1); }},
+        {'>', [](IQORProgCalcEngine& e) { e.DoShr(1); }},
+        {'{', [](IQORProgCalcEngine& e) { e.DoRol(1); }},
+        {'}', [](IQORProgCalcEngine& e) { e.DoRor(1); }},
+        {'(', [](IQORProgCalcEngine& e) { e.InputLeftBracket(); }},
+        {')', [](IQORProgCalcEngine& e) { e.InputRightBracket(); }},
+        {'=', [](IQORProgCalcEngine& e) { e.DoEquals(); }},
+    };
+    return keys;
+}
+
+const std::map<std::string, Action, std::less<>>& WordKeys()
+{
+    static const std::map<std::string, Action, std::less<>> keys {
+        {"MC", [](IQORProgCalcEngine& e) { e.MemoryClear(); }},
+        {"M+", [](IQORProgCalcEngine& e) { e.MemoryAdd(); }},
+        {"M-", [](IQORProgCalcEngine& e) { e.MemorySubtract(); }},
+        {"MR", [](IQORProgCalcEngine& e) { e.MemoryRecall(); }},
+        {"AC", [](IQORProgCalcEngine& e) { e.AllClear(); }},
+        {"CL", [](IQORProgCalcEngine& e) { e.ClearDisplay(); }},
+        {"BS", [](IQORProgCalcEngine& e) { e.InputBackspace(); }},
+        {"BIN", [](IQORProgCalcEngine& e) { e.SetBaseDisplay(bdBinary); }},
+        {"DEC", [](IQORProgCalcEngine& e) { e.SetBaseDisplay(bdDecimal); }},
+        {"HEX", [](IQORProgCalcEngine& e) { e.SetBaseDisplay(bdHexadecimal); }},
+        {"OCT", [](IQORProgCalcEngine& e) { e.SetBaseDisplay(bdOctal); }},
+        {"8", [](IQORProgCalcEngine& e) { e.SetBitSize(bs8Bits); }},
+        {"16", [](IQORProgCalcEngine& e) { e.SetBitSize(bs16Bits); }},
+        {"32", [](IQORProgCalcEngine& e) { e.SetBitSize(bs32Bits); }},
+        {"64", [](IQORProgCalcEngine& e) { e.SetBitSize(bs64Bits); }},
+    };
+    return keys;
+}
+
+using CountedKey = void (IQORProgCalcEngine::*)(std::int32_t);
+
+const std::map<std::string, CountedKey, std::less<>>& CountedKeys()
+{
+    static const std::map<std::string, CountedKey, std::less<>> keys {
+        {"SHL", &IQORProgCalcEngine::DoShl},
+        {"SHR", &IQORProgCalcEngine::DoShr},
+        {"ROL", &IQORProgCalcEngine::DoRol},
+        {"ROR", &IQORProgCalcEngine::DoRor},
+    };
+    return keys;
+}
+
+} // namespace
+
+ProgKeyDriver::ProgKeyDriver() : engine_(std::make_shared<TQORProgCalcEngine>())
+{
+    auto record = [this](std::string name) {
+        return [this, name = std::move(name)](IQORProgCalcEngine* sender) {
+            if (sender != engine_.get())
+                throw std::logic_error("notification from another sender");
+            events_.push_back(name);
+            ++counts_[name];
+        };
+    };
+    engine_->SetOnHistoryChange(record("History"));
+    engine_->SetOnDisplayChange(record("Display"));
+    engine_->SetOnError(record("Error"));
+    engine_->SetOnMemoryChange(record("Memory"));
+    engine_->SetOnBaseDisplayChange(record("Base"));
+    engine_->SetOnBitSizeChange(record("BitSize"));
+    engine_->SetOnSpacingChange(record("Spacing"));
+    engine_->SetOnSizeChangeChange(record("SizeChange"));
+}
+
+ProgKeyDriver& ProgKeyDriver::Setup(TQORBaseDisplay base, TQORBitSize size)
+{
+    engine_->SetBaseDisplay2(base);
+    engine_->SetBitSize2(size);
+    engine_->AllClear();
+    ClearEvents();
+    return *this;
+}
+
+ProgKeyDriver& ProgKeyDriver::Press(std::string_view keys)
+{
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        const char ch = keys[i];
+        if (ch == ' ')
+            continue;
+        if (ch == '[') {
+            const std::size_t end = keys.find(']', i);
+            if (end == std::string_view::npos)
+                throw std::invalid_argument("unclosed [ in keys");
+            PressWord(std::string(keys.substr(i + 1, end - i - 1)));
+            i = end;
+        } else if (std::isxdigit(static_cast<unsigned char>(ch))) {
+            engine_->InputDigit(ch);
+        } else if (auto it = CharKeys().find(ch); it != CharKeys().end()) {
+            it->second(*engine_);
+        } else {
+            throw std::invalid_argument(std::string("unknown key ") + ch);
+        }
+    }
+    return *this;
+}
+
+void ProgKeyDriver::PressWord(const std::string& word)
+{
+    if (auto it = WordKeys().find(word); it != WordKeys().end()) {
+        it->second(*engine_);
+        return;
+    }
+    const std::size_t blank = word.find(' ');
+    if (blank != std::string::npos) {
+        if (auto it = CountedKeys().find(word.substr(0, blank)); it != CountedKeys().end()) {
+            ((*engine_).*(it->second))(std::stoi(word.substr(blank + 1)));
+            return;
+        }
+    }
+    throw std::invalid_argument("unknown key [" + word + "]");
+}
+
+std::vector<std::string> ProgKeyDriver::History()
+{
+    std::vector<std::string> lines;
+    engine_->HistoryStart();
+    for (std::int32_t i = 0; i < engine_->GetHistoryLength(); ++i)
+        lines.push_back(engine_->GetNextHistoryEntry());
+    return lines;
+}
+
+int ProgKeyDriver::Count(const std::string& event) const
+{
+    const auto it = counts_.find(event);
+    return it == counts_.end() ? 0 : it->second;
+}
+
+void ProgKeyDriver::ClearEvents()
+{
+    events_.clear();
+    counts_.clear();
+}
+
+} // namespace qorkit::test
