@@ -540,35 +540,38 @@ Extended HourAngle2Ascension(Extended HourAngle, TDateTime DT, double Longitude)
 
 // ---- Coordinates -----------------------------------------------------------------------------
 
+namespace {
+// The horizon and the hour-angle systems are mirror images about the meridian: the same
+// rotation by the latitude turns (angle, elevation) of one into (elevation, angle) of the
+// other. Angles are measured so that sin(angle) >= 0 maps to 360 - arccos.
+void SwapHorizon(Extended angle, Extended elevation, Extended latitude, Extended& outElevation,
+                 Extended& outAngle)
+{
+    const Extended sinEl = QORSinDeg(elevation);
+    const Extended sinLat = QORSinDeg(latitude);
+    const Extended cosLat = QORCosDeg(latitude);
+    const Extended sinOut = sinEl * sinLat + QORCosDeg(elevation) * cosLat * QORCosDeg(angle);
+    const Extended out = ArcSinDeg(sinOut);
+    Extended a = ArcCosDeg(Ratio(sinEl - sinLat * sinOut, QORCosDeg(out) * cosLat));
+    if (QORSinDeg(angle) >= 0)
+        a = 360 - a;
+    outElevation = out;
+    outAngle = a;
+}
+} // namespace
+
 void Equatorial2Horizon(Extended HourAngle, Extended Declination, Extended Latitude,
                         Extended& Altitude, Extended& Azimuth)
 {
-    const Extended h = HourAngle * 15;
-    const Extended sinDec = QORSinDeg(Declination);
-    const Extended sinLat = QORSinDeg(Latitude);
-    const Extended cosLat = QORCosDeg(Latitude);
-    const Extended sinAlt = sinDec * sinLat + QORCosDeg(Declination) * cosLat * QORCosDeg(h);
-    const Extended alt = ArcSinDeg(sinAlt);
-    Extended az = ArcCosDeg(Ratio(sinDec - sinLat * sinAlt, QORCosDeg(alt) * cosLat));
-    if (QORSinDeg(h) >= 0)
-        az = 360 - az;
-    Altitude = alt;
-    Azimuth = az;
+    SwapHorizon(HourAngle * 15, Declination, Latitude, Altitude, Azimuth);
 }
 
 void Horizon2Equatorial(Extended Altitude, Extended Azimuth, Extended Latitude, Extended& HourAngle,
                         Extended& Declination)
 {
-    const Extended sinAlt = QORSinDeg(Altitude);
-    const Extended sinLat = QORSinDeg(Latitude);
-    const Extended cosLat = QORCosDeg(Latitude);
-    const Extended sinDec = sinAlt * sinLat + QORCosDeg(Altitude) * cosLat * QORCosDeg(Azimuth);
-    const Extended dec = ArcSinDeg(sinDec);
-    Extended h = ArcCosDeg(Ratio(sinAlt - sinLat * sinDec, QORCosDeg(dec) * cosLat));
-    if (QORSinDeg(Azimuth) >= 0)
-        h = 360 - h;
+    Extended h = 0;
+    SwapHorizon(Azimuth, Altitude, Latitude, Declination, h);
     HourAngle = h / 15;
-    Declination = dec;
 }
 
 Extended MeanObliquity(TDateTime DT)
