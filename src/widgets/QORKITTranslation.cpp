@@ -1,5 +1,7 @@
 #include "QORKITTranslation.h"
 
+#include "QORKITFloatEdit.h"
+#include "QORKITImperial.h"
 #include "QORKITSettings.h"
 #include "QORKIT_RS_Calc.h"
 #include "QORKIT_RS_UC.h"
@@ -98,10 +100,13 @@ void SyncFormatSettingsFromLocale(const QLocale& locale)
 
 std::span<const TTextModule> TextModules()
 {
-    static const std::array<TTextModule, 3> modules {{
+    // The contexts are those the modules pass to LoadResString.
+    static const std::array<TTextModule, 5> modules {{
         {"QORKIT_Base", BaseTexts()},
         {"QORKIT_RS_Calc", CalcTexts()},
-        {"QORKIT_RS_UC", UCTexts()},
+        {UCTextContext, UCTexts()},
+        {"QORKITImperial", ImperialTexts()},
+        {"QORKITFloatEdit", FloatEditTexts()},
     }};
     return modules;
 }

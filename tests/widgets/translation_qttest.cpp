@@ -1,3 +1,5 @@
+#include "QORKITFloatEdit.h"
+#include "QORKITImperial.h"
 #include "QORKITSettings.h"
 #include "QORKITTranslation.h"
 #include "QORKIT_RS_Calc.h"
@@ -129,6 +131,10 @@ TEST_F(TranslationHookTest, CompiledTemplateTranslatesTheLibrary)
         TranslationTemplate(),
         {{QStringLiteral("QORKIT_RS_Calc|Error!"), QStringLiteral("Fehler!")},
          {QStringLiteral("QORKIT_RS_Calc|sin"), QStringLiteral("sinus")},
+         {QStringLiteral("QORKITImperial|Ratio cannot be 0"),
+          QStringLiteral("Verh\u00E4ltnis darf nicht 0 sein")},
+         {QStringLiteral("QORKITFloatEdit|The value is not a finite number"),
+          QStringLiteral("Der Wert ist keine endliche Zahl")},
          {QStringLiteral("QORKIT_RS_Calc|Exit and Transfer Result"),
           QString::fromUtf8("Beenden und Ergebnis \xC3\xBC"
                             "bernehmen")},
@@ -149,6 +155,8 @@ TEST_F(TranslationHookTest, CompiledTemplateTranslatesTheLibrary)
     EXPECT_EQ(rsDivideByZero(), "Division durch null");
     EXPECT_EQ(rsSinKey(), "sinus");
     EXPECT_EQ(rsSinPaper(), "sinus");
+    EXPECT_EQ(rsImperialRatioZero(), "Verh\xC3\xA4ltnis darf nicht 0 sein");
+    EXPECT_EQ(rsValueNotFinite(), "Der Wert ist keine endliche Zahl");
     EXPECT_EQ(rsExitHint(),
               "Beenden und Ergebnis \xC3\xBC"
               "bernehmen");
