@@ -793,28 +793,26 @@ constexpr TrigFamily SinFamily {QORSin, QORArcSin, QORSinh, QORArSinh};
 constexpr TrigFamily CosFamily {QORCos, QORArcCos, QORCosh, QORArCosh};
 constexpr TrigFamily TanFamily {QORTan, QORArcTan, QORTanh, QORArTanh};
 
-Extended ToRadians(TQORAngleMode mode, Extended x)
-{
-    switch (mode) {
-    case amRadians:
-        return x;
-    case amGradians:
-        return Grad2Rad(x);
-    default:
-        return x * OneDegree;
-    }
-}
+Extended Identity(Extended x) { return x; }
 
-Extended FromRadians(TQORAngleMode mode, Extended x)
+// Each angle mode: its conversions to and from radians, and its name.
+struct AngleUnit {
+    Extended (*ToRadians)(Extended);
+    Extended (*FromRadians)(Extended);
+    std::string (*Name)();
+};
+
+constexpr AngleUnit AngleUnits[] = {
+    {[](Extended x) { return x * OneDegree; }, [](Extended x) { return x * OneRadian; },
+     rsDegAbbrev},
+    {Identity, Identity, rsRadAbbrev},
+    {Grad2Rad, Rad2Grad, rsGraAbbrev},
+};
+
+// Values outside the enumeration count as degrees.
+const AngleUnit& UnitOf(TQORAngleMode mode)
 {
-    switch (mode) {
-    case amRadians:
-        return x;
-    case amGradians:
-        return Rad2Grad(x);
-    default:
-        return x * OneRadian;
-    }
+    return AngleUnits[mode < std::size(AngleUnits) ? mode : amDegrees];
 }
 
 // Hyperbolic functions take no angle conversion; the others work in the angle mode.
@@ -822,7 +820,7 @@ Extended Trig(const TrigFamily& f, Extended x, bool inv, bool hyp, TQORAngleMode
 {
     if (hyp)
         return inv ? f.InverseHyperbolic(x) : f.Hyperbolic(x);
-    return inv ? FromRadians(mode, f.Inverse(x)) : f.Direct(ToRadians(mode, x));
+    return inv ? UnitOf(mode).FromRadians(f.Inverse(x)) : f.Direct(UnitOf(mode).ToRadians(x));
 }
 
 Extended SquareRoot(Extended x)
@@ -920,17 +918,7 @@ void TQORCalcEngine::ToggleAngleMode()
     Fire(onAngleModeChange_);
 }
 
-std::string TQORCalcEngine::GetAngleModeStr() const
-{
-    switch (angleMode_) {
-    case amRadians:
-        return rsRadAbbrev();
-    case amGradians:
-        return rsGraAbbrev();
-    default:
-        return rsDegAbbrev();
-    }
-}
+std::string TQORCalcEngine::GetAngleModeStr() const { return UnitOf(angleMode_).Name(); }
 
 // ---- Memory --------------------------------------------------------------------------------
 
