@@ -1,0 +1,614 @@
+#include "QORKITCalcFormBase.h"
+
+#include "QORKITSettings.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QScreen>
+#include <QVariant>
+
+#include <cctype>
+
+namespace qorkit {
+
+namespace {
+
+constexpr int PanelHeight = 20; // value and memory panels
+
+// Exit, Cancel and the clipboard keys, with the form's own handlers.
+struct TFrameKey {
+    QToolButton* TQORCalcFormBase::*Member;
+    TQORKeyLook Look;
+    void (TQORCalcFormBase::*Action)();
+};
+
+const TFrameKey FrameKeys[] = {
+    {&TQORCalcFormBase::ExitBtn,
+     {"ExitBtn", nullptr, nullptr, glExit, rsExitHint},
+     &TQORCalcFormBase::ExitClick},
+    {&TQORCalcFormBase::CancelBtn,
+     {"CancelBtn", nullptr, nullptr, glCancel, rsCancelHint},
+     &TQORCalcFormBase::CancelClick},
+    {&TQORCalcFormBase::CopyBtn,
+     {"CopyBtn", nullptr, nullptr, glCopy, rsCopyHint},
+     &TQORCalcFormBase::CopyClick},
+    {&TQORCalcFormBase::PasteBtn,
+     {"PasteBtn", nullptr, nullptr, glPaste, rsPasteHint},
+     &TQORCalcFormBase::PasteClick},
+};
+
+// Shortcut keys of every calculator: F10 exits, Delete clears the display, the numeric
+// pad's decimal key enters the separator (where the engine has one), the clipboard keys.
+const TQORKeyDownDef CommonKeyDowns[] = {
+    {Qt::Key_F10, Qt::NoModifier, false, "ExitBtn", nullptr},
+    {Qt::Key_Period, Qt::NoModifier, true, nullptr, &TQORCalcFormBase::KeypadDecimal},
+    {Qt::Key_Comma, Qt::NoModifier, true, nullptr, &TQORCalcFormBase::KeypadDecimal},
+    {Qt::Key_Delete, Qt::NoModifier, false, nullptr, &TQORCalcFormBase::DeleteKey},
+    {Qt::Key_Insert, Qt::ControlModifier, false, "CopyBtn", nullptr},
+    {Qt::Key_C, Qt::ControlModifier, false, "CopyBtn", nullptr},
+    {Qt::Key_V, Qt::ControlModifier, false, "PasteBtn", nullptr},
+    {Qt::Key_X, Qt::ControlModifier, false, "ExitBtn", nullptr},
+    {Qt::Key_Insert, Qt::ShiftModifier, false, "PasteBtn", nullptr},
+};
+
+// Characters every calculator takes; the digits are looked up by value.
+const TQORCharKey CommonCharKeys[] = {
+    {8, "BackSpaceBtn"},     {13, "EqualsBtn"},        {'=', "EqualsBtn"}, {27, "CancelBtn"},
+    {'(', "LeftBracketBtn"}, {')', "RightBracketBtn"}, {'+', "AddBtn"},    {'-', "SubtractBtn"},
+    {'*', "MultiplyBtn"},    {'/', "DivideBtn"},
+};
+
+QString ToQ(const std::string& s) { return QString::fromStdString(s); }
+
+// The character a key event types, as the keyboard preview sees it: the control keys as
+// their classic codes, printable ASCII as itself, 0 for anything else.
+char CharOf(const QKeyEvent& event)
+{
+    switch (event.key()) {
+    case Qt::Key_Backspace:
+        return 8;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return 13;
+    case Qt::Key_Escape:
+        return 27;
+    default:
+        break;
+    }
+    if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+        return 0;
+    const QString text = event.text();
+    if (text.size() != 1 || text[0].unicode() < 32 || text[0].unicode() > 126)
+        return 0;
+    return static_cast<char>(text[0].unicode());
+}
+
+} // namespace
+
+TQORCalcFormBase::TQORCalcFormBase(QWidget* parent, TQORFormGeometry geometry, QFont keyFont)
+    : QDialog(parent), geometry_(geometry)
+{
+    setFont(keyFont);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    KeyPanel = new TQORBasePanel(this);
+    KeyPanel->setObjectName(QStringLiteral("KeyPanel"));
+    KeyPanel->SetBevel(bvNone);
+    KeyPanel->setFocusPolicy(Qt::StrongFocus);
+    KeyPanel->setText(QString());
+    const auto makeDisplay = [this](const char* name) {
+        auto* panel = new TQORBasePanel(this);
+        panel->setObjectName(QString::fromLatin1(name));
+        panel->SetAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        panel->setIndent(4);
+        panel->SetColor(palette().color(QPalette::Base));
+        QFont font = panel->font();
+        font.setBold(true);
+        panel->setFont(font);
+        return panel;
+    };
+    ValueDisplay = makeDisplay("ValueDisplay");
+    MemoryDisplay = makeDisplay("MemoryDisplay");
+    for (const auto& key : FrameKeys) {
+        QToolButton* button = NewKey(key.Look);
+        this->*(key.Member) = button;
+        connect(button, &QToolButton::clicked, this,
+                [this, action = key.Action] { (this->*action)(); });
+    }
+}
+
+TQORCalcFormBase::~TQORCalcFormBase() = default;
+
+QToolButton* TQORCalcFormBase::NewKey(const TQORKeyLook& look)
+{
+    auto* button = new QToolButton(KeyPanel);
+    button->setObjectName(QString::fromLatin1(look.Name));
+    button->setFocusPolicy(Qt::NoFocus);
+    button->setAutoRaise(flat_);
+    button->setToolButtonStyle(look.Glyph >= 0 ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextOnly);
+    if (look.Text != nullptr)
+        button->setText(QString::fromUtf8(look.Text));
+    if (look.Glyph >= 0) {
+        button->setIcon(QORGlyphIcon(static_cast<TQORGlyph>(look.Glyph)));
+        button->setIconSize(QSize(16, 16));
+    }
+    keyTexts_.push_back({button, look});
+    if (look.Caption != nullptr)
+        button->setText(ToQ(look.Caption()));
+    if (look.Hint != nullptr)
+        button->setToolTip(ToQ(look.Hint()));
+    return button;
+}
+
+QToolButton* TQORCalcFormBase::Key(const char* name) const
+{
+    return KeyPanel->findChild<QToolButton*>(QString::fromLatin1(name), Qt::FindDirectChildrenOnly);
+}
+
+void TQORCalcFormBase::UpdateLanguage()
+{
+    setWindowTitle(ToQ(rsCalculator()));
+    for (const auto& key : keyTexts_) {
+        if (key.Look.Caption != nullptr)
+            key.Button->setText(ToQ(key.Look.Caption()));
+        if (key.Look.Hint != nullptr)
+            key.Button->setToolTip(ToQ(key.Look.Hint()));
+    }
+    ValueDisplay->setToolTip(ToQ(rsValueHint()));
+    MemoryDisplay->setToolTip(ToQ(rsMemoryHint()));
+}
+
+void TQORCalcFormBase::PlaceKeys(std::span<const TQORKeyPlace> places, int rows)
+{
+    const int w = geometry_.KeyWidth;
+    const int h = geometry_.KeyHeight;
+    for (auto* button : KeyPanel->findChildren<QToolButton*>(Qt::FindDirectChildrenOnly))
+        button->hide();
+    for (const auto& place : places) {
+        if (QToolButton* button = Key(place.Name)) {
+            button->setGeometry(place.Col * w, place.Row * h, place.Span * w, h);
+            button->show();
+        }
+    }
+    KeyPanel->resize(geometry_.Columns * w, rows * h);
+}
+
+void TQORCalcFormBase::LayoutPanels(int rows, int extraHeight)
+{
+    // With D the value panel's height + 10: the form is the key grid + 10 wide
+    // and 2 D + rows * key height + 5 high.
+    const int h = geometry_.KeyHeight;
+    const int clientWidth = geometry_.Columns * geometry_.KeyWidth + 10;
+    const int d = PanelHeight + 10;
+    ValueDisplay->setGeometry(5, 5, clientWidth - 10, PanelHeight);
+    KeyPanel->move(5, d);
+    MemoryDisplay->setGeometry(5, d + rows * h + 5, clientWidth - 10, PanelHeight);
+    setFixedSize(clientWidth, 2 * d + rows * h + 5 + extraHeight);
+}
+
+void TQORCalcFormBase::InstallKeyPreview()
+{
+    installEventFilter(this);
+    for (auto* child : findChildren<QWidget*>())
+        child->installEventFilter(this);
+}
+
+std::span<const TQORKeyDownDef> TQORCalcFormBase::KeyDowns() const { return CommonKeyDowns; }
+
+bool TQORCalcFormBase::OtherChar(char) { return false; }
+
+void TQORCalcFormBase::Click(const char* name)
+{
+    if (name == nullptr)
+        return;
+    if (QToolButton* button = Key(name))
+        button->click();
+}
+
+bool TQORCalcFormBase::PreviewKey(QKeyEvent* event)
+{
+    const Qt::KeyboardModifiers modifiers = event->modifiers();
+    const Qt::KeyboardModifiers shifts = modifiers & ~Qt::KeypadModifier;
+    for (const auto& def : KeyDowns()) {
+        if (event->key() != def.Key || shifts != def.Modifiers)
+            continue;
+        if (def.Keypad && !(modifiers & Qt::KeypadModifier))
+            continue;
+        if (def.Button != nullptr)
+            Click(def.Button);
+        else
+            (this->*def.Action)();
+        return true;
+    }
+    return false;
+}
+
+bool TQORCalcFormBase::PreviewChar(QKeyEvent* event, char ch)
+{
+    (void)event;
+    if (ch == 0)
+        return false;
+    if (FoldCase())
+        ch = static_cast<char>(std::toupper(static_cast<unsigned char>(ch)));
+    if (ch >= '0' && ch <= '9') {
+        QToolButton* const digits[] = {ZeroBtn, OneBtn, TwoBtn,   ThreeBtn, FourBtn,
+                                       FiveBtn, SixBtn, SevenBtn, EightBtn, NineBtn};
+        digits[ch - '0']->click();
+        return true;
+    }
+    auto tables = CharKeys();
+    tables.insert(tables.begin(), CommonCharKeys);
+    for (const auto& table : tables) {
+        for (const auto& key : table) {
+            if (key.Ch == ch) {
+                Click(key.Button);
+                Click(key.Then);
+                return true;
+            }
+        }
+    }
+    return OtherChar(ch);
+}
+
+bool TQORCalcFormBase::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonPress && qobject_cast<QToolButton*>(watched) != nullptr
+        && watched->parent() == KeyPanel) {
+        // A click on a key must not leave the focus in the spin edit or a list: typing goes on
+        // working through the key panel.
+        KeyPanel->setFocus(Qt::MouseFocusReason);
+        return false;
+    }
+    if (event->type() != QEvent::KeyPress || forwarding_)
+        return QDialog::eventFilter(watched, event);
+    auto* keyEvent = static_cast<QKeyEvent*>(event);
+    if (PreviewKey(keyEvent))
+        return true;
+    if (!PreviewChar(keyEvent, CharOf(*keyEvent)))
+        return false; // not ours: the control (or its parents) may use it
+    if (SwallowChars() || !isVisible())
+        return true;
+    // The key was used, but the focused control sees it too; the filter stays out of the way
+    // while it does, and the event is not offered to the form a second time.
+    forwarding_ = true;
+    QCoreApplication::sendEvent(watched, event);
+    forwarding_ = false;
+    return true;
+}
+
+void TQORCalcFormBase::CopyClick() { QGuiApplication::clipboard()->setText(ValueDisplay->text()); }
+
+void TQORCalcFormBase::PasteClick()
+{
+    const QMimeData* mime = QGuiApplication::clipboard()->mimeData();
+    if (mime != nullptr && mime->hasText())
+        PasteText(mime->text().toStdString());
+}
+
+void TQORCalcFormBase::ExitClick()
+{
+    cancelled_ = false;
+    done(Accepted);
+}
+
+void TQORCalcFormBase::CancelClick()
+{
+    cancelled_ = true;
+    done(Rejected);
+}
+
+void TQORCalcFormBase::SetExitHint(const QString& hint) { ExitBtn->setToolTip(hint); }
+
+void TQORCalcFormBase::SetCalcFlat(bool flat)
+{
+    flat_ = flat;
+    for (auto* button : KeyPanel->findChildren<QToolButton*>(Qt::FindDirectChildrenOnly))
+        button->setAutoRaise(flat);
+}
+
+void TQORCalcFormBase::SetKeyColor(const QColor& color) { KeyPanel->SetColor(color); }
+
+void TQORCalcFormBase::ApplyDispFont(const QString& description)
+{
+    if (description.isEmpty())
+        return;
+    QFont font = ValueDisplay->font();
+    if (!font.fromString(description))
+        font.setFamily(description);
+    ValueDisplay->setFont(font);
+    MemoryDisplay->setFont(font);
+}
+
+void TQORCalcFormBase::SetDispFontName(const QString& family)
+{
+    if (family.isEmpty())
+        return;
+    for (auto* panel : {ValueDisplay, MemoryDisplay}) {
+        QFont font = panel->font();
+        font.setFamily(family);
+        panel->setFont(font);
+    }
+}
+
+void TQORCalcFormBase::SetStayOnTop(bool value)
+{
+    if (value == stayOnTop_)
+        return;
+    stayOnTop_ = value;
+    ApplyWindowFlags();
+}
+
+void TQORCalcFormBase::ApplyWindowFlags()
+{
+    const bool visible = isVisible();
+    setWindowFlag(Qt::WindowStaysOnTopHint, stayOnTop_);
+    // Changing the flags hides a shown window; it comes straight back.
+    if (visible && !isVisible())
+        show();
+}
+
+void TQORCalcFormBase::SetGlyphs(const QIcon& close, const QIcon& copy, const QIcon& paste,
+                                 const QIcon& cancel)
+{
+    const std::pair<QToolButton*, const QIcon*> glyphs[]
+        = {{ExitBtn, &close}, {CopyBtn, &copy}, {PasteBtn, &paste}, {CancelBtn, &cancel}};
+    for (const auto& [button, icon] : glyphs) {
+        if (!icon->isNull())
+            button->setIcon(*icon);
+    }
+}
+
+void TQORCalcFormBase::Place(TQORFormPosition position) { position_ = position; }
+
+void TQORCalcFormBase::MoveTo(int left, int top)
+{
+    explicitLeft_ = left;
+    explicitTop_ = top;
+}
+
+void TQORCalcFormBase::showEvent(QShowEvent* event)
+{
+    if (!placed_) {
+        placed_ = true;
+        QPoint topLeft = pos();
+        QRect area;
+        if (position_ == poMainFormCenter && QApplication::activeWindow() != nullptr
+            && QApplication::activeWindow() != this) {
+            area = QApplication::activeWindow()->frameGeometry();
+        } else if (position_ == poScreenCenter || position_ == poMainFormCenter) {
+            QScreen* screen = QGuiApplication::primaryScreen();
+            area = screen != nullptr ? screen->availableGeometry() : QRect();
+        }
+        if (area.isValid())
+            topLeft = area.center() - rect().center();
+        if (explicitLeft_ != -1)
+            topLeft.setX(explicitLeft_);
+        if (explicitTop_ != -1)
+            topLeft.setY(explicitTop_);
+        move(topLeft);
+    }
+    QDialog::showEvent(event);
+    KeyPanel->setFocus(Qt::OtherFocusReason);
+}
+
+// ---- Components ------------------------------------------------------------------------------
+
+TQORCalcComponent::TQORCalcComponent(QObject* owner)
+    : QObject(owner), colorSet_(new TQOREditColorSet(this)), title_(ToQ(rsCalculator())),
+      exitHint_(ToQ(rsExitHint()))
+{ }
+
+TQORCalcComponent::~TQORCalcComponent()
+{
+    if (storeCtrl_)
+        storeCtrl_->RemoveFromNotifyList(this);
+}
+
+void TQORCalcComponent::SetStoreCtrl(TQORStoreCtrl* value)
+{
+    if (value == storeCtrl_.data())
+        return;
+    if (storeCtrl_)
+        storeCtrl_->RemoveFromNotifyList(this);
+    storeCtrl_ = value;
+    if (storeCtrl_)
+        storeCtrl_->AddToNotifyList(this);
+}
+
+void TQORCalcComponent::Notification(QObject* component, TQOROperation operation)
+{
+    if (operation != opRemove)
+        return;
+    if (component == storeCtrl_.data())
+        storeCtrl_ = nullptr;
+    if (component == uiCtrl_.data())
+        uiCtrl_ = nullptr;
+}
+
+void TQORCalcComponent::SetHiColorOnly(bool value)
+{
+    if (value == hiColorOnly_)
+        return;
+    hiColorOnly_ = value;
+    NotifyGlyphChange();
+}
+
+void TQORCalcComponent::SetGlyph(QIcon& field, const QIcon& value)
+{
+    if (field.cacheKey() == value.cacheKey())
+        return;
+    field = value;
+    NotifyGlyphChange();
+}
+
+void TQORCalcComponent::SetCalcEditGlyph(const QIcon& value) { SetGlyph(calcEditGlyph_, value); }
+void TQORCalcComponent::SetCloseGlyph(const QIcon& value) { SetGlyph(closeGlyph_, value); }
+void TQORCalcComponent::SetCancelGlyph(const QIcon& value) { SetGlyph(cancelGlyph_, value); }
+void TQORCalcComponent::SetCopyGlyph(const QIcon& value) { SetGlyph(copyGlyph_, value); }
+void TQORCalcComponent::SetPasteGlyph(const QIcon& value) { SetGlyph(pasteGlyph_, value); }
+
+void TQORCalcComponent::SetPosition(TQORFormPosition value)
+{
+    if (value <= poMainFormCenter)
+        position_ = value;
+}
+
+void TQORCalcComponent::SetPositionValue(int value)
+{
+    if (value >= poDesigned && value <= poMainFormCenter)
+        SetPosition(static_cast<TQORFormPosition>(value));
+}
+
+TQORRegIniType TQORCalcComponent::GetRegIni() const
+{
+    return storeCtrl_ ? storeCtrl_->GetRegIniType() : ritNone;
+}
+
+void TQORCalcComponent::SetRegIni(TQORRegIniType value)
+{
+    if (storeCtrl_)
+        storeCtrl_->SetRegIniType(value);
+}
+
+void TQORCalcComponent::SetRegIniValue(int value)
+{
+    if (value >= ritNone && value <= ritIniFile)
+        SetRegIni(static_cast<TQORRegIniType>(value));
+}
+
+void TQORCalcComponent::AddToNotifyGlyphChanges(QObject* client)
+{
+    if (client == nullptr)
+        return;
+    for (const auto& known : glyphClients_) {
+        if (known.data() == client)
+            return;
+    }
+    glyphClients_.emplace_back(client);
+}
+
+void TQORCalcComponent::RemoveFromNotifyGlyphChanges(QObject* client)
+{
+    std::erase_if(glyphClients_, [client](const QPointer<QObject>& known) {
+        return known.isNull() || known.data() == client;
+    });
+}
+
+void TQORCalcComponent::NotifyGlyphChange()
+{
+    // A client may unregister while it is told; work on a copy.
+    const auto clients = glyphClients_;
+    for (const auto& client : clients) {
+        if (auto* glyphClient = dynamic_cast<IQORGlyphClient*>(client.data()))
+            glyphClient->GlyphChanged(this);
+    }
+    Q_EMIT GlyphChanged();
+}
+
+void TQORCalcComponent::LoadFromStore()
+{
+    TQORStoreCtrl* store = storeCtrl_.data();
+    if (store == nullptr || !store->OpenStorage(storeSection_)) {
+        if (store != nullptr)
+            store->CloseStorage();
+        return;
+    }
+    for (const auto& item : StoreKeys()) {
+        const QString key = QString::fromLatin1(item.Key);
+        if (item.Property == nullptr) { // the memory register
+            if (loadMemoryAtStart_)
+                ReadMemory(*store, key);
+            continue;
+        }
+        const QVariant current = property(item.Property);
+        QVariant value;
+        switch (current.typeId()) {
+        case QMetaType::Bool:
+            value = store->ReadBoolean(key, current.toBool());
+            break;
+        case QMetaType::Int:
+            value = store->ReadInteger(key, current.toInt());
+            break;
+        case QMetaType::Double:
+            value = store->ReadFloat(key, current.toDouble());
+            break;
+        default:
+            value = store->ReadString(key, current.toString());
+            break;
+        }
+        setProperty(item.Property, value);
+    }
+    store->CloseStorage();
+}
+
+void TQORCalcComponent::SaveToStore()
+{
+    TQORStoreCtrl* store = storeCtrl_.data();
+    if (store == nullptr || !store->OpenStorage(storeSection_)) {
+        if (store != nullptr)
+            store->CloseStorage();
+        return;
+    }
+    for (const auto& item : StoreKeys()) {
+        const QString key = QString::fromLatin1(item.Key);
+        if (item.Property == nullptr) {
+            WriteMemory(*store, key);
+            continue;
+        }
+        const QVariant current = property(item.Property);
+        switch (current.typeId()) {
+        case QMetaType::Bool:
+            store->WriteBoolean(key, current.toBool());
+            break;
+        case QMetaType::Int:
+            store->WriteInteger(key, current.toInt());
+            break;
+        case QMetaType::Double:
+            store->WriteFloat(key, current.toDouble());
+            break;
+        default:
+            store->WriteString(key, current.toString());
+            break;
+        }
+    }
+    store->CloseStorage();
+}
+
+bool TQORCalcComponent::RunDialog()
+{
+    std::unique_ptr<TQORCalcFormBase> form = CreateForm();
+    form->SetExitHint(exitHint_);
+    if (usePosition_) {
+        form->Place(poDesigned);
+        form->MoveTo(positionLeft_, positionTop_);
+    } else {
+        form->Place(position_);
+    }
+    form->SetStayOnTop(stayOnTop_);
+    form->setWindowTitle(title_);
+    SetUpForm(*form);
+    form->SetDispFontName(dispFont_);
+    form->SetKeyColor(colorBackground_);
+    form->SetCalcFlat(flat_);
+    form->SetGlyphs(closeGlyph_, copyGlyph_, pasteGlyph_, cancelGlyph_);
+    StartCalculator(*form);
+    form->exec();
+    const bool accepted = !form->GetCancelled();
+    lastError_ = ToQ(form->GetLastError());
+    if (accepted) {
+        displayText_ = form->ValueDisplay->text();
+        ReadBack(*form);
+    }
+    return accepted;
+}
+
+TQORDispFontScope::TQORDispFontScope(const std::string& font) : saved_(QORCalcDispFont)
+{
+    if (!font.empty())
+        QORCalcDispFont = font;
+}
+
+TQORDispFontScope::~TQORDispFontScope() { QORCalcDispFont = saved_; }
+
+} // namespace qorkit

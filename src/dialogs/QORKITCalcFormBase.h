@@ -1,0 +1,551 @@
+// What the three calculator dialogs and their components share.
+//
+// TQORCalcFormBase is the dialog frame: the key panel with its speed buttons, the value and
+// memory panels, Exit / Cancel / Copy / Paste, the keys every calculator has (digits, the four
+// operators, brackets, equals, clearing, memory), the keyboard preview that turns typed
+// characters and shortcut keys into button clicks, the clipboard, stay-on-top and placement.
+// Keys are described by tables (name, caption or glyph, hint, engine call) and placed by
+// layout tables, so a form is mostly data.
+//
+// TQORCalcComponent is the non-visual side: the published properties the three components
+// have in common, the settings-store round trip driven by a table of keys, the glyph-change
+// notices for calculator edits, and the run of one modal dialog.
+#pragma once
+
+#include "QORKITBaseControls.h"
+#include "QORKITComponent.h"
+#include "QORKITEditColors.h"
+#include "QORKITGlyphs.h"
+#include "QORKITStoreCtrl.h"
+#include "QORKITTypes.h"
+#include "QORKIT_RS_Calc.h"
+
+#include <QColor>
+#include <QDialog>
+#include <QIcon>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QToolButton>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+class QSpinBox;
+
+namespace qorkit {
+
+// Where a dialog opens when it is not placed explicitly.
+enum TQORFormPosition : std::uint8_t {
+    poDesigned = 0, // where the form was laid out (its present left and top)
+    poDefault = 1, // where the window system puts new windows
+    poScreenCenter = 2, // centred on the screen
+    poMainFormCenter = 3, // centred on the application's active window
+};
+
+// Fixed version text of the calculator components.
+inline constexpr char QORCalcVersion[] = "qorkit calculators 0.1.0";
+
+using TQORTextFn = std::string (*)();
+
+// How a key looks: its object name, a fixed caption or a translatable one, or a glyph
+// (glyph -1: none), and its hint (none when null).
+struct TQORKeyLook {
+    const char* Name;
+    const char* Text;
+    TQORTextFn Caption;
+    int Glyph;
+    TQORTextFn Hint;
+};
+
+// One key of a form: the member that holds it, its look and the engine call of a click.
+template<class Form, class Engine> struct TQORKeyDef {
+    QToolButton* Form::*Member;
+    TQORKeyLook Look;
+    void (*Click)(Engine& engine);
+};
+
+// A key's cell in a layout: column, row and width in keys.
+struct TQORKeyPlace {
+    const char* Name;
+    int Col;
+    int Row;
+    int Span = 1;
+};
+
+// A typed character and the button(s) it clicks.
+struct TQORCharKey {
+    char Ch;
+    const char* Button;
+    const char* Then = nullptr;
+};
+
+// A shortcut key (with exactly these modifiers) and what it does: a button click, or a
+// method of the form.
+class TQORCalcFormBase;
+struct TQORKeyDownDef {
+    int Key;
+    Qt::KeyboardModifiers Modifiers;
+    bool Keypad;
+    const char* Button;
+    void (TQORCalcFormBase::*Action)();
+};
+
+// Geometry of a form: key size and the key grid's size in keys.
+struct TQORFormGeometry {
+    int KeyWidth;
+    int KeyHeight;
+    int Columns;
+    int Rows;
+};
+
+class TQORCalcFormBase : public QDialog {
+    Q_OBJECT
+
+public:
+    ~TQORCalcFormBase() override;
+
+    TQORBasePanel* KeyPanel = nullptr;
+    TQORBasePanel* ValueDisplay = nullptr;
+    TQORBasePanel* MemoryDisplay = nullptr;
+    QToolButton* ZeroBtn = nullptr;
+    QToolButton* OneBtn = nullptr;
+    QToolButton* TwoBtn = nullptr;
+    QToolButton* ThreeBtn = nullptr;
+    QToolButton* FourBtn = nullptr;
+    QToolButton* FiveBtn = nullptr;
+    QToolButton* SixBtn = nullptr;
+    QToolButton* SevenBtn = nullptr;
+    QToolButton* EightBtn = nullptr;
+    QToolButton* NineBtn = nullptr;
+    QToolButton* AddBtn = nullptr;
+    QToolButton* SubtractBtn = nullptr;
+    QToolButton* MultiplyBtn = nullptr;
+    QToolButton* DivideBtn = nullptr;
+    QToolButton* EqualsBtn = nullptr;
+    QToolButton* LeftBracketBtn = nullptr;
+    QToolButton* RightBracketBtn = nullptr;
+    QToolButton* AllClearBtn = nullptr;
+    QToolButton* ClearBtn = nullptr;
+    QToolButton* BackSpaceBtn = nullptr;
+    QToolButton* MemoryClearBtn = nullptr;
+    QToolButton* MemoryAddBtn = nullptr;
+    QToolButton* MemorySubtractBtn = nullptr;
+    QToolButton* MemoryRecallBtn = nullptr;
+    QToolButton* ExitBtn = nullptr;
+    QToolButton* CancelBtn = nullptr;
+    QToolButton* CopyBtn = nullptr;
+    QToolButton* PasteBtn = nullptr;
+
+    // Set by Cancel (and Escape), cleared by Exit; closing by the window's own close box
+    // leaves it as it is, so that transfers the value.
+    bool GetCancelled() const { return cancelled_; }
+    void SetCancelled(bool value) { cancelled_ = value; }
+
+    void SetExitHint(const QString& hint);
+    void SetCalcFlat(bool flat);
+    bool GetCalcFlat() const { return flat_; }
+    void SetKeyColor(const QColor& color);
+    // A font description (QFont::toString) or a bare family name; empty keeps the font.
+    void ApplyDispFont(const QString& description);
+    // Family of both display panels; an empty name keeps the present one.
+    void SetDispFontName(const QString& family);
+    bool GetStayOnTop() const { return stayOnTop_; }
+    void SetStayOnTop(bool value);
+    // A non-null icon replaces the glyph of Exit, Copy, Paste, Cancel.
+    void SetGlyphs(const QIcon& close, const QIcon& copy, const QIcon& paste, const QIcon& cancel);
+    // Explicit placement moves the form to left/top (-1 keeps that coordinate); otherwise
+    // `position` decides when the form is shown.
+    void Place(TQORFormPosition position);
+    void MoveTo(int left, int top);
+
+    // Texts of every key and the caption from the resource strings.
+    virtual void UpdateLanguage();
+    // The engine's last error text.
+    virtual std::string GetLastError() const = 0;
+
+    void CopyClick();
+    void PasteClick();
+    void ExitClick();
+    void CancelClick();
+    // Delete: clears the display.
+    virtual void DeleteKey() = 0;
+    // The numeric pad's decimal key.
+    virtual void KeypadDecimal() { }
+
+protected:
+    TQORCalcFormBase(QWidget* parent, TQORFormGeometry geometry, QFont keyFont);
+
+    template<class Form, class Engine>
+    void AddKeys(std::span<const TQORKeyDef<Form, Engine>> defs, Engine& engine)
+    {
+        auto& form = static_cast<Form&>(*this);
+        for (const auto& def : defs) {
+            QToolButton* button = NewKey(def.Look);
+            form.*(def.Member) = button;
+            if (def.Click != nullptr) {
+                connect(button, &QToolButton::clicked, this,
+                        [click = def.Click, &engine] { click(engine); });
+            }
+        }
+    }
+
+    QToolButton* NewKey(const TQORKeyLook& look);
+    QToolButton* Key(const char* name) const;
+    // Lays the keys out in the grid and sizes the key panel; keys missing from `places` are
+    // hidden.
+    void PlaceKeys(std::span<const TQORKeyPlace> places, int rows);
+    // The float calculators' frame: value panel at the top, the key grid, the memory panel
+    // below, both panels as wide as the form less the margins; `extraHeight` is added.
+    void LayoutPanels(int rows, int extraHeight = 0);
+    // Sets up the keyboard preview on the form and every child it has by now.
+    void InstallKeyPreview();
+
+    // The character tables of a form, searched in order after the keys every calculator
+    // has (digits, backspace, enter, "=", escape, brackets and the four operators).
+    virtual std::vector<std::span<const TQORCharKey>> CharKeys() const = 0;
+    virtual std::span<const TQORKeyDownDef> KeyDowns() const;
+    // Whether a handled character stops there (otherwise it also reaches the focused control).
+    virtual bool SwallowChars() const { return true; }
+    // Whether letters are folded to upper case before the table is searched.
+    virtual bool FoldCase() const { return true; }
+    // A character the table did not handle (the float forms take the decimal separator).
+    virtual bool OtherChar(char ch);
+    virtual void PasteText(const std::string& text) = 0;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+    const TQORFormGeometry geometry_;
+
+private:
+    bool PreviewKey(QKeyEvent* event);
+    bool PreviewChar(QKeyEvent* event, char ch);
+    void Click(const char* name);
+    void ApplyWindowFlags();
+
+    struct KeyText {
+        QToolButton* Button;
+        TQORKeyLook Look;
+    };
+    std::vector<KeyText> keyTexts_;
+    bool cancelled_ = false;
+    bool flat_ = false;
+    bool stayOnTop_ = false;
+    bool forwarding_ = false;
+    TQORFormPosition position_ = poScreenCenter;
+    int explicitLeft_ = -1;
+    int explicitTop_ = -1;
+    bool placed_ = false;
+};
+
+// The keys every calculator has; Engine is the floating-point or the programmer's engine.
+// EnterDigit(engine, digit) is provided next to each engine's form.
+
+template<class Engine>
+inline constexpr TQORKeyDef<TQORCalcFormBase, Engine> QORCommonKeys[] = {
+    {&TQORCalcFormBase::ZeroBtn,
+     {"ZeroBtn", "0", nullptr, -1, nullptr},
+     [](Engine& e) { EnterDigit(e, 0); }},
+    {&TQORCalcFormBase::OneBtn,
+     {"OneBtn", "1", nullptr, -1, nullptr},
+     [](Engine& e) { EnterDigit(e, 1); }},
+    {&TQORCalcFormBase::TwoBtn,
+     {"TwoBtn", "2", nullptr, -1, nullptr},
+     [](Engine& e) { EnterDigit(e, 2); }},
+    {&TQORCalcFormBase::ThreeBtn,
+     {"ThreeBtn", "3", nullptr, -1, nullptr},
+     [](Engine& e) { EnterDigit(e, 3); }},
+    {&TQORCalcFormBase::FourBtn,
+     {"FourBtn", "4", nullptr, -1, nullptr},
+     [](Engine& e) { EnterDigit(e, 4); }},
+    {&TQORCalcFormBase::FiveBtn,
+     {"FiveBtn", "5", nullptr, -1, nullptr},
+     [](Engine& e) { EnterDigit(e, 5); }},
+    {&TQORCalcFormBase::SixBtn,
+     {"SixBtn", "6", nullptr, -1, nullptr},
+     [](Engine& e) { EnterDigit(e, 6); }},
+    {&TQORCalcFormBase::SevenBtn,
+     {"SevenBtn", "7", nullptr, -1, nullptr},
+     [](Engine& e) { EnterDigit(e, 7); }},
+    {&TQORCalcFormBase::EightBtn,
+     {"EightBtn", "8", nullptr, -1, nullptr},
+     [](Engine& e) { EnterDigit(e, 8); }},
+    {&TQORCalcFormBase::NineBtn,
+     {"NineBtn", "9", nullptr, -1, nullptr},
+     [](Engine& e) { EnterDigit(e, 9); }},
+    {&TQORCalcFormBase::AddBtn,
+     {"AddBtn", nullptr, nullptr, glAdd, rsAddHint},
+     [](Engine& e) { e.DoAdd(); }},
+    {&TQORCalcFormBase::SubtractBtn,
+     {"SubtractBtn", nullptr, nullptr, glSubtract, rsSubtractHint},
+     [](Engine& e) { e.DoSubtract(); }},
+    {&TQORCalcFormBase::MultiplyBtn,
+     {"MultiplyBtn", nullptr, nullptr, glMultiply, rsMultiplyHint},
+     [](Engine& e) { e.DoMultiply(); }},
+    {&TQORCalcFormBase::DivideBtn,
+     {"DivideBtn", nullptr, nullptr, glDivide, rsDivideHint},
+     [](Engine& e) { e.DoDivide(); }},
+    {&TQORCalcFormBase::EqualsBtn,
+     {"EqualsBtn", "=", nullptr, -1, nullptr},
+     [](Engine& e) { e.DoEquals(); }},
+    {&TQORCalcFormBase::LeftBracketBtn,
+     {"LeftBracketBtn", "(", nullptr, -1, nullptr},
+     [](Engine& e) { e.InputLeftBracket(); }},
+    {&TQORCalcFormBase::RightBracketBtn,
+     {"RightBracketBtn", ")", nullptr, -1, nullptr},
+     [](Engine& e) { e.InputRightBracket(); }},
+    {&TQORCalcFormBase::AllClearBtn,
+     {"AllClearBtn", nullptr, rsACKey, -1, rsACHint},
+     [](Engine& e) { e.AllClear(); }},
+    {&TQORCalcFormBase::BackSpaceBtn,
+     {"BackSpaceBtn", nullptr, nullptr, glBackSpace, rsBackSpaceHint},
+     [](Engine& e) { e.InputBackspace(); }},
+    {&TQORCalcFormBase::MemoryClearBtn,
+     {"MemoryClearBtn", nullptr, rsMCKey, -1, rsMCHint},
+     [](Engine& e) { e.MemoryClear(); }},
+    {&TQORCalcFormBase::MemoryAddBtn,
+     {"MemoryAddBtn", nullptr, rsMAddKey, -1, rsMAddHint},
+     [](Engine& e) { e.MemoryAdd(); }},
+    {&TQORCalcFormBase::MemorySubtractBtn,
+     {"MemorySubtractBtn", nullptr, rsMSubtractKey, -1, rsMSubtractHint},
+     [](Engine& e) { e.MemorySubtract(); }},
+    {&TQORCalcFormBase::MemoryRecallBtn,
+     {"MemoryRecallBtn", nullptr, rsMRKey, -1, rsMRHint},
+     [](Engine& e) { e.MemoryRecall(); }},
+};
+
+// ---- Components ------------------------------------------------------------------------------
+
+// A control that shows a calculator component's edit glyph hears of glyph changes through
+// this (registered with AddToNotifyGlyphChanges).
+class IQORGlyphClient {
+public:
+    virtual ~IQORGlyphClient() = default;
+    virtual void GlyphChanged(QObject* calculator) = 0;
+};
+
+// A settings key and the property it keeps.
+struct TQORStoreKey {
+    const char* Key;
+    const char* Property;
+};
+
+class TQORCalcComponent : public QObject, public IQORNotifyClient {
+    Q_OBJECT
+    Q_PROPERTY(TQORUICtrl* UICtrl READ GetUICtrl WRITE SetUICtrl)
+    Q_PROPERTY(TQOREditColorSet* ColorSet READ GetColorSet)
+    Q_PROPERTY(TQORStoreCtrl* StoreCtrl READ GetStoreCtrl WRITE SetStoreCtrl)
+    Q_PROPERTY(QString StoreSection READ GetStoreSection WRITE SetStoreSection)
+    Q_PROPERTY(bool Precedence READ GetPrecedence WRITE SetPrecedence)
+    Q_PROPERTY(bool PrefixFunctions READ GetPrefixFunctions WRITE SetPrefixFunctions)
+    Q_PROPERTY(bool Flat READ GetFlat WRITE SetFlat)
+    Q_PROPERTY(QString DispFont READ GetDispFont WRITE SetDispFont)
+    Q_PROPERTY(bool LoadMemoryAtStart READ GetLoadMemoryAtStart WRITE SetLoadMemoryAtStart)
+    Q_PROPERTY(QString Title READ GetTitle WRITE SetTitle)
+    Q_PROPERTY(bool HiColorOnly READ GetHiColorOnly WRITE SetHiColorOnly)
+    Q_PROPERTY(QIcon CalcEditGlyph READ GetCalcEditGlyph WRITE SetCalcEditGlyph)
+    Q_PROPERTY(QIcon CloseGlyph READ GetCloseGlyph WRITE SetCloseGlyph)
+    Q_PROPERTY(QIcon CancelGlyph READ GetCancelGlyph WRITE SetCancelGlyph)
+    Q_PROPERTY(QIcon CopyGlyph READ GetCopyGlyph WRITE SetCopyGlyph)
+    Q_PROPERTY(QIcon PasteGlyph READ GetPasteGlyph WRITE SetPasteGlyph)
+    Q_PROPERTY(QColor ColorBackground READ GetColorBackground WRITE SetColorBackground)
+    Q_PROPERTY(QString ExitHint READ GetExitHint WRITE SetExitHint)
+    Q_PROPERTY(int Position READ GetPositionValue WRITE SetPositionValue)
+    Q_PROPERTY(bool StayOnTop READ GetStayOnTop WRITE SetStayOnTop)
+    Q_PROPERTY(QString Version READ GetVersion WRITE SetVersion STORED false)
+    Q_PROPERTY(int RegIni READ GetRegIniValue WRITE SetRegIniValue STORED false)
+    Q_PROPERTY(bool FlatSpin READ GetFlatSpin WRITE SetFlatSpin STORED false)
+    Q_PROPERTY(QString LastError READ GetLastError STORED false)
+
+public:
+    ~TQORCalcComponent() override;
+
+    TQORUICtrl* GetUICtrl() const { return uiCtrl_.data(); }
+    void SetUICtrl(TQORUICtrl* value) { uiCtrl_ = value; }
+    TQOREditColorSet* GetColorSet() const { return colorSet_; }
+    TQORStoreCtrl* GetStoreCtrl() const { return storeCtrl_.data(); }
+    void SetStoreCtrl(TQORStoreCtrl* value);
+    QString GetStoreSection() const { return storeSection_; }
+    void SetStoreSection(const QString& value) { storeSection_ = value; }
+    bool GetPrecedence() const { return precedence_; }
+    void SetPrecedence(bool value) { precedence_ = value; }
+    bool GetPrefixFunctions() const { return prefixFunctions_; }
+    void SetPrefixFunctions(bool value) { prefixFunctions_ = value; }
+    bool GetFlat() const { return flat_; }
+    void SetFlat(bool value) { flat_ = value; }
+    QString GetDispFont() const { return dispFont_; }
+    void SetDispFont(const QString& value) { dispFont_ = value; }
+    bool GetLoadMemoryAtStart() const { return loadMemoryAtStart_; }
+    void SetLoadMemoryAtStart(bool value) { loadMemoryAtStart_ = value; }
+    QString GetTitle() const { return title_; }
+    void SetTitle(const QString& value) { title_ = value; }
+    bool GetHiColorOnly() const { return hiColorOnly_; }
+    void SetHiColorOnly(bool value);
+    QIcon GetCalcEditGlyph() const { return calcEditGlyph_; }
+    void SetCalcEditGlyph(const QIcon& value);
+    QIcon GetCloseGlyph() const { return closeGlyph_; }
+    void SetCloseGlyph(const QIcon& value);
+    QIcon GetCancelGlyph() const { return cancelGlyph_; }
+    void SetCancelGlyph(const QIcon& value);
+    QIcon GetCopyGlyph() const { return copyGlyph_; }
+    void SetCopyGlyph(const QIcon& value);
+    QIcon GetPasteGlyph() const { return pasteGlyph_; }
+    void SetPasteGlyph(const QIcon& value);
+    // Invalid: the style's window colour.
+    QColor GetColorBackground() const { return colorBackground_; }
+    void SetColorBackground(const QColor& value) { colorBackground_ = value; }
+    QString GetExitHint() const { return exitHint_; }
+    void SetExitHint(const QString& value) { exitHint_ = value; }
+    TQORFormPosition GetPosition() const { return position_; }
+    void SetPosition(TQORFormPosition value);
+    bool GetStayOnTop() const { return stayOnTop_; }
+    void SetStayOnTop(bool value) { stayOnTop_ = value; }
+    // The fixed version text; writes are ignored.
+    QString GetVersion() const { return QString::fromLatin1(QORCalcVersion); }
+    void SetVersion(const QString&) { }
+    // The kind of the settings store (ritNone without one); setting it changes the store's.
+    TQORRegIniType GetRegIni() const;
+    void SetRegIni(TQORRegIniType value);
+    bool GetFlatSpin() const { return flatSpin_; }
+    void SetFlatSpin(bool value) { flatSpin_ = value; }
+    // The engine's error text after the last run ("" when it ended without error).
+    QString GetLastError() const { return lastError_; }
+    // The display text after the last accepted run.
+    QString GetDisplayText() const { return displayText_; }
+
+    // Reads / writes the stored properties through StoreCtrl in StoreSection; nothing happens
+    // without a store. The memory is read only when "Use Memory" is on.
+    void LoadFromStore();
+    void SaveToStore();
+
+    void AddToNotifyGlyphChanges(QObject* client);
+    void RemoveFromNotifyGlyphChanges(QObject* client);
+    // Tells every registered client (and GlyphChanged listeners) that a glyph changed.
+    void NotifyGlyphChange();
+
+    void Notification(QObject* component, TQOROperation operation) override;
+
+Q_SIGNALS:
+    void GlyphChanged();
+
+protected:
+    explicit TQORCalcComponent(QObject* owner);
+
+    // Runs the dialog once: placement, caption, look, then the component's own set-up,
+    // OnStartCalculator, the modal loop and the read-back when accepted.
+    bool RunDialog();
+    virtual std::unique_ptr<TQORCalcFormBase> CreateForm() = 0;
+    virtual void SetUpForm(TQORCalcFormBase& form) = 0;
+    virtual void StartCalculator(TQORCalcFormBase& form) = 0;
+    virtual void ReadBack(TQORCalcFormBase& form) = 0;
+    virtual std::span<const TQORStoreKey> StoreKeys() const = 0;
+    virtual void ReadMemory(TQORStoreCtrl& store, const QString& key) = 0;
+    virtual void WriteMemory(TQORStoreCtrl& store, const QString& key) = 0;
+
+    bool usePosition_ = false;
+    int positionLeft_ = 0;
+    int positionTop_ = 0;
+    QString lastError_;
+    QString displayText_;
+
+private:
+    int GetPositionValue() const { return position_; }
+    void SetPositionValue(int value);
+    int GetRegIniValue() const { return GetRegIni(); }
+    void SetRegIniValue(int value);
+    void SetGlyph(QIcon& field, const QIcon& value);
+
+    QPointer<TQORUICtrl> uiCtrl_;
+    TQOREditColorSet* colorSet_;
+    QPointer<TQORStoreCtrl> storeCtrl_;
+    QString storeSection_ = QString::fromLatin1(QORDefaultStoreSection);
+    bool precedence_ = true;
+    bool prefixFunctions_ = false;
+    bool flat_ = false;
+    QString dispFont_;
+    bool loadMemoryAtStart_ = true;
+    QString title_;
+    bool hiColorOnly_ = false;
+    QIcon calcEditGlyph_;
+    QIcon closeGlyph_;
+    QIcon cancelGlyph_;
+    QIcon copyGlyph_;
+    QIcon pasteGlyph_;
+    QColor colorBackground_;
+    QString exitHint_;
+    TQORFormPosition position_ = poScreenCenter;
+    bool stayOnTop_ = false;
+    bool flatSpin_ = false;
+    std::vector<QPointer<QObject>> glyphClients_;
+};
+
+// Execute / ExecutePos and the three events of a component whose form is Form.
+template<class Component, class Form, class Base = TQORCalcComponent>
+class TQORCalcComponentT : public Base {
+public:
+    using TFormEvent = std::function<void(Component* sender, Form* form)>;
+    using TExecuteEvent = std::function<bool(Component* sender)>;
+    using TExecutePosEvent
+        = std::function<bool(Component* sender, std::int32_t left, std::int32_t top)>;
+
+    // Shows the dialog; true when the user accepted. OnExecute, when assigned, replaces it.
+    bool Execute()
+    {
+        if (onExecute_)
+            return onExecute_(static_cast<Component*>(this));
+        return this->RunDialog();
+    }
+    // The same with the form's left and top given; OnExecutePos, when assigned, replaces it.
+    bool ExecutePos(std::int32_t left, std::int32_t top)
+    {
+        if (onExecutePos_)
+            return onExecutePos_(static_cast<Component*>(this), left, top);
+        this->usePosition_ = true;
+        this->positionLeft_ = left;
+        this->positionTop_ = top;
+        const bool result = Execute();
+        this->usePosition_ = false;
+        return result;
+    }
+
+    const TFormEvent& GetOnStartCalculator() const { return onStartCalculator_; }
+    void SetOnStartCalculator(TFormEvent e) { onStartCalculator_ = std::move(e); }
+    const TExecuteEvent& GetOnExecute() const { return onExecute_; }
+    void SetOnExecute(TExecuteEvent e) { onExecute_ = std::move(e); }
+    const TExecutePosEvent& GetOnExecutePos() const { return onExecutePos_; }
+    void SetOnExecutePos(TExecutePosEvent e) { onExecutePos_ = std::move(e); }
+
+protected:
+    using Base::Base;
+
+    void StartCalculator(TQORCalcFormBase& form) override
+    {
+        if (onStartCalculator_)
+            onStartCalculator_(static_cast<Component*>(this), static_cast<Form*>(&form));
+    }
+
+private:
+    TFormEvent onStartCalculator_;
+    TExecuteEvent onExecute_;
+    TExecutePosEvent onExecutePos_;
+};
+
+// Keeps the process-wide display font for the life of one free-function dialog, replaced by
+// `font` when that is not empty.
+class TQORDispFontScope {
+public:
+    explicit TQORDispFontScope(const std::string& font);
+    ~TQORDispFontScope();
+    TQORDispFontScope(const TQORDispFontScope&) = delete;
+    TQORDispFontScope& operator=(const TQORDispFontScope&) = delete;
+
+private:
+    std::string saved_;
+};
+
+} // namespace qorkit

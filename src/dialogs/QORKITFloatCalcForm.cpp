@@ -1,0 +1,216 @@
+#include "QORKITFloatCalcForm.h"
+
+#include "QORKITSettings.h"
+
+#include <QLineEdit>
+#include <QPalette>
+
+namespace qorkit {
+
+void EnterDigit(TQORCalcEngine& engine, int digit)
+{
+    engine.InputDigit(static_cast<std::int8_t>(digit));
+}
+
+namespace {
+
+using TFloatKey = TQORKeyDef<TQORFloatCalcForm, TQORCalcEngine>;
+
+const TFloatKey FloatKeys[] = {
+    {&TQORFloatCalcForm::PointBtn,
+     {"PointBtn", ".", nullptr, -1, nullptr},
+     [](TQORCalcEngine& e) { e.InputDecimalSeparator(); }},
+    {&TQORFloatCalcForm::ChangeSignBtn,
+     {"ChangeSignBtn", nullptr, nullptr, glChangeSign, rsChangeSignHint},
+     [](TQORCalcEngine& e) { e.DoChangeSign(); }},
+    {&TQORFloatCalcForm::ClearBtn,
+     {"ClearBtn", nullptr, rsCKey, -1, rsCHint},
+     [](TQORCalcEngine& e) { e.ClearDisplay(); }},
+    {&TQORFloatCalcForm::PowerBtn,
+     {"PowerBtn", nullptr, nullptr, glPower, rsPowerHint},
+     [](TQORCalcEngine& e) { e.DoPower(); }},
+    {&TQORFloatCalcForm::PiBtn,
+     {"PiBtn", nullptr, nullptr, glPi, rsPiHint},
+     [](TQORCalcEngine& e) { e.InputPi(); }},
+    {&TQORFloatCalcForm::EBtn,
+     {"EBtn", "e", nullptr, -1, rsEHint},
+     [](TQORCalcEngine& e) { e.InputNaturalConstant(); }},
+    {&TQORFloatCalcForm::SquareBtn,
+     {"SquareBtn", nullptr, nullptr, glSquare, rsSquareHint},
+     [](TQORCalcEngine& e) { e.DoSquare(); }},
+    {&TQORFloatCalcForm::SqRootBtn,
+     {"SqRootBtn", nullptr, nullptr, glSqRoot, rsSqRootHint},
+     [](TQORCalcEngine& e) { e.DoSqRoot(); }},
+    {&TQORFloatCalcForm::InvertBtn,
+     {"InvertBtn", nullptr, nullptr, glInvert, rsInvertHint},
+     [](TQORCalcEngine& e) { e.DoInvert(); }},
+    {&TQORFloatCalcForm::LogBtn,
+     {"LogBtn", nullptr, rsLogKey, -1, rsLogHint},
+     [](TQORCalcEngine& e) { e.DoLog(); }},
+    {&TQORFloatCalcForm::LNBtn,
+     {"LNBtn", nullptr, rsLnKey, -1, rsLnHint},
+     [](TQORCalcEngine& e) { e.DoLN(); }},
+    {&TQORFloatCalcForm::SinBtn,
+     {"SinBtn", nullptr, rsSinKey, -1, rsSinHint},
+     [](TQORCalcEngine& e) { e.DoSin(); }},
+    {&TQORFloatCalcForm::CosBtn,
+     {"CosBtn", nullptr, rsCosKey, -1, rsCosHint},
+     [](TQORCalcEngine& e) { e.DoCos(); }},
+    {&TQORFloatCalcForm::TanBtn,
+     {"TanBtn", nullptr, rsTanKey, -1, rsTanHint},
+     [](TQORCalcEngine& e) { e.DoTan(); }},
+    {&TQORFloatCalcForm::InvBtn,
+     {"InvBtn", nullptr, rsInvAbbrev, -1, rsInvHint},
+     [](TQORCalcEngine& e) { e.DoInv(); }},
+    {&TQORFloatCalcForm::PercentBtn,
+     {"PercentBtn", "%", nullptr, -1, rsPercentHint},
+     [](TQORCalcEngine& e) { e.DoPercent(); }},
+    {&TQORFloatCalcForm::RadBtn,
+     {"RadBtn", nullptr, rsRadAbbrev, -1, rsRadHint},
+     [](TQORCalcEngine& e) { e.ToggleAngleMode(); }},
+};
+
+// Letters and signs both floating-point calculators take.
+const TQORCharKey FloatCharKeys[] = {
+    {'A', "AllClearBtn"}, {'C', "ClearBtn"}, {'I', "InvertBtn"},     {'P', "PiBtn"},
+    {'R', "SqRootBtn"},   {'^', "PowerBtn"}, {'_', "ChangeSignBtn"}, {'X', "MultiplyBtn"},
+};
+
+// How a function key reads while Inv and / or Hyp is on. Trigonometric keys take an "a" in
+// front for the inverse and an "h" behind for the hyperbolic form; the others show the
+// inverse function's own text or glyph.
+struct TToggleLabel {
+    const char* Name;
+    TQORTextFn Caption;
+    TQORTextFn InvCaption;
+    bool Trig;
+    int Glyph;
+    int InvGlyph;
+};
+
+const TToggleLabel ToggleLabels[] = {
+    {"SinBtn", rsSinKey, nullptr, true, -1, -1},
+    {"CosBtn", rsCosKey, nullptr, true, -1, -1},
+    {"TanBtn", rsTanKey, nullptr, true, -1, -1},
+    {"LogBtn", rsLogKey, rs10toXPaper, false, -1, -1},
+    {"LNBtn", rsLnKey, rsEtoXPaper, false, -1, -1},
+    {"Lg2btn", rsLg2Key, rsInvLog2Paper, false, -1, -1},
+    {"SquareBtn", nullptr, nullptr, false, glSquare, glSqRoot},
+    {"SqRootBtn", nullptr, nullptr, false, glSqRoot, glSquare},
+};
+
+} // namespace
+
+TQORFloatCalcForm::TQORFloatCalcForm(QWidget* parent, TQORFormGeometry geometry)
+    : TQORCalcFormBase(parent, geometry, [] {
+          QFont font(QStringLiteral("Arial"));
+          font.setPixelSize(11);
+          font.setBold(true);
+          return font;
+      }())
+{
+    AddKeys<TQORCalcFormBase, TQORCalcEngine>(QORCommonKeys<TQORCalcEngine>, engine_);
+    AddKeys<TQORFloatCalcForm, TQORCalcEngine>(FloatKeys, engine_);
+    InvBtn->setCheckable(true);
+    // The key shows the engine's toggle, not its own checked state.
+    connect(InvBtn, &QToolButton::clicked, this, [this] { ShowToggles(); });
+
+    DPSpin = new QSpinBox(KeyPanel);
+    DPSpin->setObjectName(QStringLiteral("DPSpin"));
+    DPSpin->setRange(0, 18);
+    DPSpin->setToolTip(QString::fromStdString(rsDecimalsHint()));
+    connect(DPSpin, &QSpinBox::valueChanged, this, [this](int value) {
+        engine_.SetDecimalPlaces(static_cast<std::uint8_t>(value));
+        RefreshDisplays();
+    });
+
+    ApplyDispFont(QString::fromStdString(QORCalcDispFont));
+    engine_.SetOnDisplayChange([this](TQORCalcEngine*) {
+        ValueDisplay->setText(QString::fromStdString(engine_.GetDisplayStr()));
+    });
+    engine_.SetOnMemoryChange([this](TQORCalcEngine*) {
+        MemoryDisplay->setText(QString::fromStdString(engine_.GetMemoryContents()));
+    });
+    engine_.SetOnDecimalPlacesChange([this](TQORCalcEngine*) {
+        const QSignalBlocker quiet(DPSpin);
+        DPSpin->setValue(engine_.GetDecimalPlaces());
+    });
+    engine_.SetOnAngleModeChange([this](TQORCalcEngine*) {
+        RadBtn->setText(QString::fromStdString(engine_.GetAngleModeStr()));
+    });
+    engine_.SetOnSetToggles([this](TQORCalcEngine*) { ShowToggles(); });
+    engine_.SetOnClearToggles([this](TQORCalcEngine*) { ShowToggles(); });
+}
+
+std::span<const TQORCharKey> TQORFloatCalcForm::FloatChars() { return FloatCharKeys; }
+
+bool TQORFloatCalcForm::OtherChar(char ch)
+{
+    if (ch != FormatSettings.DecimalSeparator)
+        return false;
+    PointBtn->click();
+    return true;
+}
+
+void TQORFloatCalcForm::RefreshDisplays()
+{
+    ValueDisplay->setText(QString::fromStdString(engine_.GetDisplayStr()));
+    MemoryDisplay->setText(QString::fromStdString(engine_.GetMemoryContents()));
+    RadBtn->setText(QString::fromStdString(engine_.GetAngleModeStr()));
+    const QSignalBlocker quiet(DPSpin);
+    DPSpin->setValue(engine_.GetDecimalPlaces());
+}
+
+void TQORFloatCalcForm::SetReadOnlyDecimalPlaces(bool value) { DPSpin->setReadOnly(value); }
+
+void TQORFloatCalcForm::SetSpinColors(const TQOREditColorSet* own, const TQORUICtrl* uiCtrl)
+{
+    const TQOREditColorSet* set = uiCtrl != nullptr ? uiCtrl->GetColorSet() : own;
+    if (set == nullptr)
+        return;
+    QPalette palette = DPSpin->palette();
+    if (set->NormalBack().isValid())
+        palette.setColor(QPalette::Base, set->NormalBack());
+    if (set->NormalText().isValid())
+        palette.setColor(QPalette::Text, set->NormalText());
+    DPSpin->setPalette(palette);
+}
+
+void TQORFloatCalcForm::SetFlatSpin(bool value) { DPSpin->setFrame(!value); }
+
+void TQORFloatCalcForm::UpdateLanguage()
+{
+    TQORCalcFormBase::UpdateLanguage();
+    DPSpin->setToolTip(QString::fromStdString(rsDecimalsHint()));
+    RadBtn->setText(QString::fromStdString(engine_.GetAngleModeStr()));
+    ShowToggles();
+}
+
+void TQORFloatCalcForm::ShowToggles()
+{
+    const bool inv = engine_.GetIsInv();
+    const bool hyp = engine_.GetIsHyp();
+    InvBtn->setChecked(inv);
+    if (auto* hypBtn = Key("HypBtn"))
+        hypBtn->setChecked(hyp);
+    for (const auto& label : ToggleLabels) {
+        QToolButton* button = Key(label.Name);
+        if (button == nullptr)
+            continue;
+        if (label.Glyph >= 0) {
+            button->setIcon(
+                QORGlyphIcon(static_cast<TQORGlyph>(inv ? label.InvGlyph : label.Glyph)));
+            continue;
+        }
+        std::string text = label.Caption();
+        if (label.Trig) {
+            // Hyperbolic keys exist only on the scientific form; without one Hyp stays off.
+            text = (inv ? "a" : "") + text + (hyp ? "h" : "");
+        } else if (inv) {
+            text = label.InvCaption();
+        }
+        button->setText(QString::fromStdString(text));
+    }
+}
+
+} // namespace qorkit

@@ -1,0 +1,67 @@
+// TQORFloatCalcForm: the part the standard and the scientific calculator share, a dialog over
+// one floating-point engine with the function keys, the angle-mode key, the decimal-places
+// spin edit and function keys that show the Inv / Hyp toggles ("sin" becomes "asin", "sinh"
+// or "asinh", "log" becomes "10^x" ...).
+#pragma once
+
+#include "QORKITCalcEngine.h"
+#include "QORKITCalcFormBase.h"
+
+#include <QSpinBox>
+
+namespace qorkit {
+
+void EnterDigit(TQORCalcEngine& engine, int digit);
+
+class TQORFloatCalcForm : public TQORCalcFormBase {
+    Q_OBJECT
+
+public:
+    QToolButton* PointBtn = nullptr;
+    QToolButton* ChangeSignBtn = nullptr;
+    QToolButton* PowerBtn = nullptr;
+    QToolButton* PiBtn = nullptr;
+    QToolButton* EBtn = nullptr;
+    QToolButton* SquareBtn = nullptr;
+    QToolButton* SqRootBtn = nullptr;
+    QToolButton* InvertBtn = nullptr;
+    QToolButton* LogBtn = nullptr;
+    QToolButton* LNBtn = nullptr;
+    QToolButton* SinBtn = nullptr;
+    QToolButton* CosBtn = nullptr;
+    QToolButton* TanBtn = nullptr;
+    QToolButton* InvBtn = nullptr;
+    QToolButton* PercentBtn = nullptr;
+    QToolButton* RadBtn = nullptr;
+    QSpinBox* DPSpin = nullptr;
+
+    // The form's own engine; it lives as long as the form.
+    TQORCalcEngine& GetCalcEngine() { return engine_; }
+    std::string GetLastError() const override { return engine_.GetLastError(); }
+
+    // Shows the engine's display, memory, angle mode and decimal places.
+    void RefreshDisplays();
+    void SetReadOnlyDecimalPlaces(bool value);
+    // Colours of the decimal-places spin edit: the UI control's set when given, else `own`.
+    void SetSpinColors(const TQOREditColorSet* own, const TQORUICtrl* uiCtrl);
+    void SetFlatSpin(bool value);
+    void UpdateLanguage() override;
+    // Relabels the function keys for the engine's Inv and Hyp toggles.
+    void ShowToggles();
+    void DeleteKey() override { engine_.ClearDisplay(); }
+    void KeypadDecimal() override { engine_.InputDecimalSeparator(); }
+
+protected:
+    TQORFloatCalcForm(QWidget* parent, TQORFormGeometry geometry);
+
+    // Characters both floating-point calculators take.
+    static std::span<const TQORCharKey> FloatChars();
+    // The locale's decimal separator enters the separator, whatever it is.
+    bool OtherChar(char ch) override;
+    void PasteText(const std::string& text) override { engine_.InputString(text); }
+
+private:
+    TQORCalcEngine engine_;
+};
+
+} // namespace qorkit

@@ -1,0 +1,365 @@
+#include "QORKITProgCalculator.h"
+
+#include "QORKITRegIni.h"
+#include "QORKITSettings.h"
+
+#include <array>
+
+namespace qorkit {
+
+void EnterDigit(IQORProgCalcEngine& engine, int digit)
+{
+    engine.InputDigit(static_cast<char>('0' + digit));
+}
+
+namespace {
+
+constexpr TQORFormGeometry ProgGeometry {31, 22, 13, 4};
+constexpr int ClientWidth = 417;
+constexpr int ClientHeight = 152;
+constexpr int ComboWidth = 72;
+
+using TProgKey = TQORKeyDef<TQORProgCalcForm, IQORProgCalcEngine>;
+
+const TProgKey ProgKeys[] = {
+    {&TQORProgCalcForm::ABtn,
+     {"ABtn", "A", nullptr, -1, nullptr},
+     [](IQORProgCalcEngine& e) { e.InputDigit('A'); }},
+    {&TQORProgCalcForm::BBtn,
+     {"BBtn", "B", nullptr, -1, nullptr},
+     [](IQORProgCalcEngine& e) { e.InputDigit('B'); }},
+    {&TQORProgCalcForm::CBtn,
+     {"CBtn", "C", nullptr, -1, nullptr},
+     [](IQORProgCalcEngine& e) { e.InputDigit('C'); }},
+    {&TQORProgCalcForm::DBtn,
+     {"DBtn", "D", nullptr, -1, nullptr},
+     [](IQORProgCalcEngine& e) { e.InputDigit('D'); }},
+    {&TQORProgCalcForm::EBtn,
+     {"EBtn", "E", nullptr, -1, nullptr},
+     [](IQORProgCalcEngine& e) { e.InputDigit('E'); }},
+    {&TQORProgCalcForm::FBtn,
+     {"FBtn", "F", nullptr, -1, nullptr},
+     [](IQORProgCalcEngine& e) { e.InputDigit('F'); }},
+    {&TQORProgCalcForm::ClearBtn,
+     {"ClearBtn", nullptr, rsClKey, -1, rsCHint},
+     [](IQORProgCalcEngine& e) { e.ClearDisplay(); }},
+    {&TQORProgCalcForm::ModBtn,
+     {"ModBtn", nullptr, rsMODKey, -1, rsMODHint},
+     [](IQORProgCalcEngine& e) { e.DoMod(); }},
+    {&TQORProgCalcForm::ANDBtn,
+     {"ANDBtn", nullptr, rsANDKey, -1, rsANDHint},
+     [](IQORProgCalcEngine& e) { e.DoAnd(); }},
+    {&TQORProgCalcForm::ORBtn,
+     {"ORBtn", nullptr, rsORKey, -1, rsORHint},
+     [](IQORProgCalcEngine& e) { e.DoOr(); }},
+    {&TQORProgCalcForm::XORBtn,
+     {"XORBtn", nullptr, rsXORKey, -1, rsXORHint},
+     [](IQORProgCalcEngine& e) { e.DoXor(); }},
+    {&TQORProgCalcForm::NANDBtn,
+     {"NANDBtn", nullptr, rsNANDKey, -1, rsNANDHint},
+     [](IQORProgCalcEngine& e) { e.DoNand(); }},
+    {&TQORProgCalcForm::NORBtn,
+     {"NORBtn", nullptr, rsNORKey, -1, rsNORHint},
+     [](IQORProgCalcEngine& e) { e.DoNor(); }},
+    {&TQORProgCalcForm::XNORBtn,
+     {"XNORBtn", nullptr, rsXNORKey, -1, rsXNORHint},
+     [](IQORProgCalcEngine& e) { e.DoXnor(); }},
+    {&TQORProgCalcForm::NotBtn,
+     {"NotBtn", nullptr, rsNOTKey, -1, rsNOTHint},
+     [](IQORProgCalcEngine& e) { e.DoNot(); }},
+    {&TQORProgCalcForm::NEGBtn,
+     {"NEGBtn", nullptr, rsNEGKey, -1, rsNEGHint},
+     [](IQORProgCalcEngine& e) { e.DoNeg(); }},
+    // Shifts and rotates always move by one bit.
+    {&TQORProgCalcForm::SHLBtn,
+     {"SHLBtn", nullptr, rsSHLKey, -1, rsSHLHint},
+     [](IQORProgCalcEngine& e) { e.DoShl(1); }},
+    {&TQORProgCalcForm::SHRBtn,
+     {"SHRBtn", nullptr, rsSHRKey, -1, rsSHRHint},
+     [](IQORProgCalcEngine& e) { e.DoShr(1); }},
+    {&TQORProgCalcForm::ROLBtn,
+     {"ROLBtn", nullptr, rsROLKey, -1, rsROLHint},
+     [](IQORProgCalcEngine& e) { e.DoRol(1); }},
+    {&TQORProgCalcForm::RORBtn,
+     {"RORBtn", nullptr, rsRORKey, -1, rsRORHint},
+     [](IQORProgCalcEngine& e) { e.DoRor(1); }},
+};
+
+const TQORKeyPlace ProgPlaces[] = {
+    {"DBtn", 0, 0},
+    {"EBtn", 1, 0},
+    {"FBtn", 2, 0},
+    {"SevenBtn", 3, 0},
+    {"EightBtn", 4, 0},
+    {"NineBtn", 5, 0},
+    {"DivideBtn", 6, 0},
+    {"LeftBracketBtn", 7, 0},
+    {"RightBracketBtn", 8, 0},
+    {"ANDBtn", 9, 0},
+    {"NANDBtn", 10, 0},
+    {"AllClearBtn", 11, 0},
+    {"ClearBtn", 12, 0},
+    {"ABtn", 0, 1},
+    {"BBtn", 1, 1},
+    {"CBtn", 2, 1},
+    {"FourBtn", 3, 1},
+    {"FiveBtn", 4, 1},
+    {"SixBtn", 5, 1},
+    {"MultiplyBtn", 6, 1},
+    {"SHLBtn", 7, 1},
+    {"SHRBtn", 8, 1},
+    {"ORBtn", 9, 1},
+    {"NORBtn", 10, 1},
+    {"BackSpaceBtn", 11, 1},
+    {"CopyBtn", 12, 1},
+    {"MemoryClearBtn", 0, 2},
+    {"MemoryRecallBtn", 1, 2},
+    {"MemoryAddBtn", 2, 2},
+    {"OneBtn", 3, 2},
+    {"TwoBtn", 4, 2},
+    {"ThreeBtn", 5, 2},
+    {"SubtractBtn", 6, 2},
+    {"ROLBtn", 7, 2},
+    {"RORBtn", 8, 2},
+    {"XORBtn", 9, 2},
+    {"XNORBtn", 10, 2},
+    {"MemorySubtractBtn", 11, 2},
+    {"PasteBtn", 12, 2},
+    {"ModBtn", 0, 3},
+    {"NotBtn", 1, 3},
+    {"NEGBtn", 2, 3},
+    {"ZeroBtn", 3, 3},
+    {"EqualsBtn", 4, 3, 2},
+    {"AddBtn", 6, 3},
+    {"CancelBtn", 11, 3},
+    {"ExitBtn", 12, 3},
+};
+
+const TQORCharKey ProgCharKeys[] = {
+    {'A', "ABtn"},    {'B', "BBtn"},   {'C', "CBtn"},    {'D', "DBtn"},   {'E', "EBtn"},
+    {'F', "FBtn"},    {'%', "ModBtn"}, {'&', "ANDBtn"},  {'|', "ORBtn"},  {'^', "XORBtn"},
+    {'#', "NANDBtn"}, {'?', "NORBtn"}, {'!', "XNORBtn"}, {'~', "NotBtn"}, {'_', "NEGBtn"},
+    {'<', "SHLBtn"},  {'>', "SHRBtn"}, {'{', "ROLBtn"},  {'}', "RORBtn"},
+};
+
+// Digits each base takes, indexed by TQORBaseDisplay (binary, decimal, hexadecimal, octal).
+constexpr std::array<int, 4> DigitsOfBase {2, 10, 16, 8};
+
+const TQORStoreKey ProgStoreKeys[] = {
+    {"Use Memory", "LoadMemoryAtStart"},
+    {"Memory", nullptr},
+    {"DispFont", "DispFont"},
+    {"Prefix Functions", "PrefixFunctions"},
+    {"Precedence", "Precedence"},
+    {"Position", "Position"},
+    {"Stay On Top", "StayOnTop"},
+};
+
+QString ToQ(const std::string& s) { return QString::fromStdString(s); }
+
+} // namespace
+
+TQORProgCalcForm::TQORProgCalcForm(QWidget* parent)
+    : TQORCalcFormBase(parent, ProgGeometry, QFont(QStringLiteral("Arial"), 8, QFont::Bold))
+{
+    helpContext_ = QORProgCalcHelpContext;
+    AddKeys<TQORCalcFormBase, IQORProgCalcEngine>(QORCommonKeys<IQORProgCalcEngine>, engine_);
+    AddKeys<TQORProgCalcForm, IQORProgCalcEngine>(ProgKeys, engine_);
+
+    BaseCombo = new TQORBaseComboBox(this);
+    BaseCombo->setObjectName(QStringLiteral("BaseCombo"));
+    BitsCombo = new TQORBaseComboBox(this);
+    BitsCombo->setObjectName(QStringLiteral("BitsCombo"));
+    BaseCombo->SetOnChange([this](QObject*) {
+        engine_.SetBaseDisplay(static_cast<TQORBaseDisplay>(BaseCombo->GetItemIndex()));
+        EnableDigits();
+    });
+    BitsCombo->SetOnChange([this](QObject*) {
+        engine_.SetBitSize(static_cast<TQORBitSize>(BitsCombo->GetItemIndex()));
+    });
+
+    ApplyDispFont(ToQ(QORCalcDispFont));
+    UpdateLanguage();
+
+    PlaceKeys(ProgPlaces, ProgGeometry.Rows);
+    const int keysWidth = ProgGeometry.Columns * ProgGeometry.KeyWidth;
+    const int keysLeft = (ClientWidth - keysWidth) / 2;
+    const int rowTop = 30;
+    ValueDisplay->setGeometry(keysLeft, 5, keysWidth, 20);
+    MemoryDisplay->setGeometry(keysLeft, rowTop, keysWidth - 2 * ComboWidth - 8,
+                               ProgGeometry.KeyHeight);
+    BaseCombo->setGeometry(keysLeft + keysWidth - 2 * ComboWidth - 4, rowTop, ComboWidth,
+                           ProgGeometry.KeyHeight);
+    BitsCombo->setGeometry(keysLeft + keysWidth - ComboWidth, rowTop, ComboWidth,
+                           ProgGeometry.KeyHeight);
+    KeyPanel->move(keysLeft, rowTop + ProgGeometry.KeyHeight + 5);
+    setFixedSize(ClientWidth, ClientHeight);
+
+    // The size list is deliberately not told of size changes the engine makes by itself
+    // (decimal forces 64 bits): it keeps showing the size the user chose.
+    engine_.SetOnDisplayChange(
+        [this](IQORProgCalcEngine*) { ValueDisplay->setText(ToQ(engine_.GetDisplayStr())); });
+    engine_.SetOnMemoryChange(
+        [this](IQORProgCalcEngine*) { MemoryDisplay->setText(ToQ(engine_.GetMemoryContents())); });
+    engine_.SetOnBaseDisplayChange([this](IQORProgCalcEngine*) { EnableDigits(); });
+    ValueDisplay->setText(ToQ(engine_.GetDisplayStr()));
+    InstallKeyPreview();
+}
+
+void TQORProgCalcForm::LoadLists()
+{
+    const TQORTextFn bases[] = {rsComboBin, rsComboDec, rsComboHex, rsComboOct};
+    const TQORTextFn sizes[] = {rsCombo8Bits, rsCombo16Bits, rsCombo32Bits, rsCombo64Bits};
+    const std::pair<TQORBaseComboBox*, const TQORTextFn*> lists[]
+        = {{BaseCombo, bases}, {BitsCombo, sizes}};
+    for (const auto& [combo, texts] : lists) {
+        const int selected = combo->GetItemIndex();
+        const QSignalBlocker quiet(combo);
+        combo->clear();
+        for (int i = 0; i < 4; ++i)
+            combo->addItem(ToQ(texts[i]()));
+        combo->SetItemIndex(selected);
+    }
+}
+
+void TQORProgCalcForm::UpdateLanguage()
+{
+    TQORCalcFormBase::UpdateLanguage();
+    LoadLists();
+    BaseCombo->setToolTip(ToQ(rsBaseHint()));
+    BitsCombo->setToolTip(ToQ(rsBitsHint()));
+}
+
+std::vector<std::span<const TQORCharKey>> TQORProgCalcForm::CharKeys() const
+{
+    return {ProgCharKeys};
+}
+
+void TQORProgCalcForm::EnableDigits()
+{
+    QToolButton* const digits[]
+        = {ZeroBtn,  OneBtn,  TwoBtn, ThreeBtn, FourBtn, FiveBtn, SixBtn, SevenBtn,
+           EightBtn, NineBtn, ABtn,   BBtn,     CBtn,    DBtn,    EBtn,   FBtn};
+    const int base = engine_.GetBaseDisplay();
+    const int count = base < static_cast<int>(DigitsOfBase.size())
+        ? DigitsOfBase[static_cast<std::size_t>(base)]
+        : 16;
+    for (int i = 0; i < 16; ++i)
+        digits[i]->setEnabled(i < count);
+}
+
+void TQORProgCalcForm::RefreshDisplays()
+{
+    BaseCombo->SetItemIndex(engine_.GetBaseDisplay());
+    BitsCombo->SetItemIndex(engine_.GetBitSize());
+    MemoryDisplay->setText(ToQ(engine_.GetMemoryContents()));
+    ValueDisplay->setText(ToQ(engine_.GetDisplayStr()));
+    EnableDigits();
+}
+
+// ---- Component -------------------------------------------------------------------------------
+
+TQORProgCalculator::TQORProgCalculator(QObject* owner) : TQORCalcComponentT(owner)
+{
+    SetPrefixFunctions(true);
+}
+
+void TQORProgCalculator::SetMemory(std::int64_t value)
+{
+    memory_ = value;
+    QORProgCalcMemory = value;
+}
+
+void TQORProgCalculator::SetUpEngine(IQORProgCalcEngine& engine)
+{
+    engine.SetPrecedence(GetPrecedence());
+    engine.InputValue(value_);
+    engine.SetMemory(memory_);
+    engine.SetPrefixFunctions(GetPrefixFunctions());
+}
+
+IQORProgCalcEngine& TQORProgCalculator::GetCalcEngine()
+{
+    if (!engine_)
+        engine_ = std::make_unique<TQORProgCalcEngine>();
+    SetUpEngine(*engine_);
+    return *engine_;
+}
+
+std::unique_ptr<TQORCalcFormBase> TQORProgCalculator::CreateForm()
+{
+    return std::make_unique<TQORProgCalcForm>();
+}
+
+void TQORProgCalculator::SetUpForm(TQORCalcFormBase& base)
+{
+    auto& form = static_cast<TQORProgCalcForm&>(base);
+    SetUpEngine(form.GetCalcEngine());
+    form.RefreshDisplays();
+}
+
+void TQORProgCalculator::ReadBack(TQORCalcFormBase& base)
+{
+    IQORProgCalcEngine& engine = static_cast<TQORProgCalcForm&>(base).GetCalcEngine();
+    value_ = engine.GetDisplayValue();
+    // Straight into the field: the process-wide memory is left as it was.
+    memory_ = engine.GetMemoryValue();
+    SetPrefixFunctions(engine.GetPrefixFunctions());
+    SetPrecedence(engine.GetPrecedence());
+}
+
+std::span<const TQORStoreKey> TQORProgCalculator::StoreKeys() const { return ProgStoreKeys; }
+
+void TQORProgCalculator::ReadMemory(TQORStoreCtrl& store, const QString& key)
+{
+    SetMemory(store.ReadInt64(key, memory_));
+}
+
+void TQORProgCalculator::WriteMemory(TQORStoreCtrl& store, const QString& key)
+{
+    store.WriteInt64(key, memory_);
+}
+
+// ---- Free functions --------------------------------------------------------------------------
+
+bool DisplayProgCalcPos(const std::string& Title, std::int64_t& Value, std::int32_t X,
+                        std::int32_t Y, const std::string& DispFont, bool Flat)
+{
+    const TQORDispFontScope font(DispFont);
+    TQORProgCalcForm form;
+    IQORProgCalcEngine& engine = form.GetCalcEngine();
+    LoadCalculatorSettings();
+    engine.SetMemory(QORProgCalcMemory);
+    form.MoveTo(X, Y);
+    form.setWindowTitle(ToQ(Title));
+    engine.InputValue(Value);
+    form.RefreshDisplays();
+    form.SetCalcFlat(Flat);
+    form.exec();
+    const bool accepted = !form.GetCancelled();
+    if (accepted)
+        Value = engine.GetDisplayValue();
+    // As with the other calculators, the memory outlives a cancelled dialog.
+    QORProgCalcMemory = engine.GetMemoryValue();
+    SaveCalculatorSettings();
+    return accepted;
+}
+
+bool DisplayProgCalcPos(const std::string& Title, std::int64_t& Value, std::int32_t X,
+                        std::int32_t Y, bool Flat)
+{
+    return DisplayProgCalcPos(Title, Value, X, Y, std::string(), Flat);
+}
+
+bool DisplayProgCalc(const std::string& Title, std::int64_t& Value, const std::string& DispFont,
+                     bool Flat)
+{
+    return DisplayProgCalcPos(Title, Value, -1, -1, DispFont, Flat);
+}
+
+bool DisplayProgCalc(const std::string& Title, std::int64_t& Value, bool Flat)
+{
+    return DisplayProgCalcPos(Title, Value, -1, -1, std::string(), Flat);
+}
+
+} // namespace qorkit

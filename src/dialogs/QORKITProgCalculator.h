@@ -1,0 +1,112 @@
+// The programmer's calculator: the dialog TQORProgCalcForm over one programmer's engine (driven
+// only through IQORProgCalcEngine), with the base and word-size lists and the bitwise keys; the
+// component TQORProgCalculator; and the DisplayProgCalc free functions.
+#pragma once
+
+#include "QORKITCalcFormBase.h"
+#include "QORKITProgCalcEngine.h"
+
+#include <cstdint>
+#include <string>
+
+namespace qorkit {
+
+void EnterDigit(IQORProgCalcEngine& engine, int digit);
+
+class TQORProgCalcForm : public TQORCalcFormBase {
+    Q_OBJECT
+
+public:
+    explicit TQORProgCalcForm(QWidget* parent = nullptr);
+
+    QToolButton* ABtn = nullptr;
+    QToolButton* BBtn = nullptr;
+    QToolButton* CBtn = nullptr;
+    QToolButton* DBtn = nullptr;
+    QToolButton* EBtn = nullptr;
+    QToolButton* FBtn = nullptr;
+    QToolButton* ModBtn = nullptr;
+    QToolButton* ANDBtn = nullptr;
+    QToolButton* ORBtn = nullptr;
+    QToolButton* XORBtn = nullptr;
+    QToolButton* NANDBtn = nullptr;
+    QToolButton* NORBtn = nullptr;
+    QToolButton* XNORBtn = nullptr;
+    QToolButton* NotBtn = nullptr;
+    QToolButton* NEGBtn = nullptr;
+    QToolButton* SHLBtn = nullptr;
+    QToolButton* SHRBtn = nullptr;
+    QToolButton* ROLBtn = nullptr;
+    QToolButton* RORBtn = nullptr;
+    TQORBaseComboBox* BaseCombo = nullptr;
+    TQORBaseComboBox* BitsCombo = nullptr;
+
+    IQORProgCalcEngine& GetCalcEngine() { return engine_; }
+    std::string GetLastError() const override { return engine_.GetLastError(); }
+
+    // Shows the engine's display and memory, selects its base and size in the lists and
+    // enables the digit keys of the base.
+    void RefreshDisplays();
+    // Disables the digit keys the present base cannot take.
+    void EnableDigits();
+    void UpdateLanguage() override;
+    void DeleteKey() override { engine_.ClearDisplay(); }
+    int GetHelpContext() const { return helpContext_; }
+
+protected:
+    std::vector<std::span<const TQORCharKey>> CharKeys() const override;
+    void PasteText(const std::string& text) override { engine_.InputString(text); }
+
+private:
+    void LoadLists();
+
+    TQORProgCalcEngine engine_;
+    int helpContext_ = 0;
+};
+
+class TQORProgCalculator : public TQORCalcComponentT<TQORProgCalculator, TQORProgCalcForm> {
+    Q_OBJECT
+    Q_PROPERTY(qint64 Value READ GetValue WRITE SetValue)
+    Q_PROPERTY(qint64 Memory READ GetMemory WRITE SetMemory)
+
+public:
+    explicit TQORProgCalculator(QObject* owner = nullptr);
+
+    std::int64_t GetValue() const { return value_; }
+    void SetValue(std::int64_t value) { value_ = value; }
+    std::int64_t GetMemory() const { return memory_; }
+    // Also keeps the value as the process-wide programmer's memory.
+    void SetMemory(std::int64_t value);
+
+    // The component's own engine, set up from the properties; the component keeps it.
+    IQORProgCalcEngine& GetCalcEngine();
+
+protected:
+    std::unique_ptr<TQORCalcFormBase> CreateForm() override;
+    void SetUpForm(TQORCalcFormBase& form) override;
+    void ReadBack(TQORCalcFormBase& form) override;
+    std::span<const TQORStoreKey> StoreKeys() const override;
+    void ReadMemory(TQORStoreCtrl& store, const QString& key) override;
+    void WriteMemory(TQORStoreCtrl& store, const QString& key) override;
+
+private:
+    void SetUpEngine(IQORProgCalcEngine& engine);
+
+    std::int64_t value_ = 0;
+    std::int64_t memory_ = 0;
+    std::unique_ptr<TQORProgCalcEngine> engine_;
+};
+
+// Shows the programmer's calculator with the process-wide programmer's memory; true when the
+// user accepted, and then `Value` holds the result. `Flat` gives flat keys; a non-empty
+// `DispFont` is the display font for this dialog.
+bool DisplayProgCalc(const std::string& Title, std::int64_t& Value, bool Flat);
+bool DisplayProgCalc(const std::string& Title, std::int64_t& Value, const std::string& DispFont,
+                     bool Flat);
+// The same with the form's left and top (-1 keeps the centred coordinate).
+bool DisplayProgCalcPos(const std::string& Title, std::int64_t& Value, std::int32_t X,
+                        std::int32_t Y, bool Flat);
+bool DisplayProgCalcPos(const std::string& Title, std::int64_t& Value, std::int32_t X,
+                        std::int32_t Y, const std::string& DispFont, bool Flat);
+
+} // namespace qorkit

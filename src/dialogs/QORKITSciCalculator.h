@@ -1,0 +1,82 @@
+// The scientific calculator: the dialog TQORSciCalcForm (the standard keys plus log to base 2,
+// exponent entry and the hyperbolic toggle), the component TQORSciCalculator with the
+// scientific-notation range, and the DisplaySciCalc free functions.
+#pragma once
+
+#include "QORKITFloatCalcComponent.h"
+#include "QORKITFloatCalcForm.h"
+
+#include <cstdint>
+#include <string>
+
+namespace qorkit {
+
+class TQORSciCalcForm : public TQORFloatCalcForm {
+    Q_OBJECT
+
+public:
+    explicit TQORSciCalcForm(QWidget* parent = nullptr);
+
+    QToolButton* Lg2btn = nullptr;
+    QToolButton* ExpBtn = nullptr;
+    QToolButton* HypBtn = nullptr;
+
+    // Lays the keys and panels out.
+    void RedrawCalc();
+
+protected:
+    std::vector<std::span<const TQORCharKey>> CharKeys() const override;
+};
+
+class TQORSciCalculator
+    : public TQORCalcComponentT<TQORSciCalculator, TQORSciCalcForm, TQORFloatCalcComponent> {
+    Q_OBJECT
+    Q_PROPERTY(bool SciRange READ GetSciRange WRITE SetSciRange)
+    Q_PROPERTY(double SciMax READ GetSciMaxDouble WRITE SetSciMaxDouble)
+    Q_PROPERTY(double SciMin READ GetSciMinDouble WRITE SetSciMinDouble)
+    Q_PROPERTY(bool OverrideSciRange READ GetOverrideSciRange WRITE SetOverrideSciRange)
+
+public:
+    explicit TQORSciCalculator(QObject* owner = nullptr);
+
+    // Values outside [SciMin, SciMax) are shown in scientific notation when SciRange is on.
+    bool GetSciRange() const { return sciRange_; }
+    void SetSciRange(bool value) { sciRange_ = value; }
+    Extended GetSciMax() const { return sciMax_; }
+    void SetSciMax(Extended value);
+    Extended GetSciMin() const { return sciMin_; }
+    void SetSciMin(Extended value);
+    // Left to owners such as the scientific calculator edit.
+    bool GetOverrideSciRange() const { return overrideSciRange_; }
+    void SetOverrideSciRange(bool value) { overrideSciRange_ = value; }
+
+protected:
+    std::unique_ptr<TQORCalcFormBase> CreateForm() override;
+    void SetUpEngine(TQORCalcEngine& engine) override;
+    void ReadBackMore(TQORCalcEngine&) override { }
+    std::span<const TQORStoreKey> StoreKeys() const override;
+
+private:
+    double GetSciMaxDouble() const { return static_cast<double>(sciMax_); }
+    void SetSciMaxDouble(double value) { SetSciMax(value); }
+    double GetSciMinDouble() const { return static_cast<double>(sciMin_); }
+    void SetSciMinDouble(double value) { SetSciMin(value); }
+
+    bool sciRange_ = false;
+    Extended sciMax_ = 1000000.0L;
+    Extended sciMin_ = 0.0001L;
+    bool overrideSciRange_ = false;
+};
+
+// Shows the scientific calculator with the saved angle mode and memory; true when the user
+// accepted, and then `Value` holds the result. An empty font keeps the saved display font.
+bool DisplaySciCalc(const std::string& Title, Extended& Value, const std::string& DispFont,
+                    std::uint8_t Decimals, bool Flat);
+bool DisplaySciCalc(const std::string& Title, Extended& Value, std::uint8_t Decimals, bool Flat);
+// The same with the form's left and top (-1 keeps the centred coordinate).
+bool DisplaySciCalcPos(const std::string& Title, Extended& Value, std::int32_t X, std::int32_t Y,
+                       const std::string& DispFont, std::uint8_t Decimals, bool Flat);
+bool DisplaySciCalcPos(const std::string& Title, Extended& Value, std::int32_t X, std::int32_t Y,
+                       std::uint8_t Decimals, bool Flat);
+
+} // namespace qorkit
