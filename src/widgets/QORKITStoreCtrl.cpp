@@ -1,9 +1,13 @@
 #include "QORKITStoreCtrl.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QRegularExpression>
+#include <QTemporaryFile>
 
 #include <charconv>
 #include <cmath>
+#include <filesystem>
 #include <limits>
 
 namespace qorkit {
@@ -22,6 +26,8 @@ public:
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
     QSettings* Settings() const { return store_.settings_.get(); }
+    // The settings to write to, or nullptr when the write must be dropped.
+    QSettings* Writable() const { return store_.BeginWriting() ? Settings() : nullptr; }
 
 private:
     TQORStoreCtrl& store_;
@@ -33,8 +39,10 @@ TQORStoreCtrl::TQORStoreCtrl(QObject* owner) : QObject(owner) { }
 TQORStoreCtrl::~TQORStoreCtrl()
 {
     notifyList_.NotifyRemoval(this);
-    if (settings_)
-        settings_->sync();
+    if (settings_) {
+        sections_.clear();
+        FinishWriting();
+    }
 }
 
 void TQORStoreCtrl::SetRegIniType(TQORRegIniType value)
@@ -117,10 +125,141 @@ bool TQORStoreCtrl::CloseStorage()
         EnterTopSection();
         return true;
     }
+    return FinishWriting();
+}
+
+namespace {
+
+std::filesystem::path FsPath(const QString& file)
+{
+    return std::filesystem::path(file.toStdU16String());
+}
+
+// Whether the store keeps its settings in a file that we can replace ourselves (rather than in
+// the registry or the system's preferences service).
+bool IsFileStore(const QSettings& settings)
+{
+#if defined(Q_OS_WIN) || defined(Q_OS_DARWIN)
+    if (settings.format() == QSettings::NativeFormat)
+        return false;
+#endif
+    return !settings.fileName().isEmpty();
+}
+
+} // namespace
+
+bool TQORStoreCtrl::BeginWriting()
+{
+    if (!settings_)
+        return false;
+    if (writing_)
+        return true;
+    if (!IsFileStore(*settings_)) {
+        writing_ = true;
+        return true;
+    }
+    const QString target = QFileInfo(settings_->fileName()).absoluteFilePath();
+    const QFileInfo info(target);
+    if (!QDir().mkpath(info.absolutePath())) {
+        status_ = QSettings::AccessError;
+        return false;
+    }
+    QTemporaryFile working(info.absolutePath() + QStringLiteral("/.") + info.fileName()
+                           + QStringLiteral(".XXXXXX"));
+    working.setAutoRemove(false);
+    if (!working.open()) {
+        status_ = QSettings::AccessError;
+        return false;
+    }
+    working.close();
+    std::error_code error;
+    if (info.exists())
+        std::filesystem::copy_file(FsPath(target), FsPath(working.fileName()),
+                                   std::filesystem::copy_options::overwrite_existing, error);
+    if (error) {
+        QFile::remove(working.fileName());
+        status_ = QSettings::AccessError;
+        return false;
+    }
+    // Nothing was written yet, so the session can move to the copy without losing anything.
+    settings_.reset();
+    settings_ = std::make_unique<QSettings>(working.fileName(), QSettings::IniFormat);
+    settings_->setFallbacksEnabled(false);
+    settings_->setAtomicSyncRequired(true);
+    EnterTopSection();
+    targetFile_ = target;
+    workingFile_ = working.fileName();
+    writing_ = true;
+    return true;
+}
+
+bool TQORStoreCtrl::VerifyWorkingCopy()
+{
+    // Read the copy back under a second name: the settings cache knows files by name, so
+    // this parses what actually reached the disk.
+    const QString check = workingFile_ + QStringLiteral("v");
+    std::error_code error;
+    std::filesystem::create_hard_link(FsPath(workingFile_), FsPath(check), error);
+    if (error) {
+        error.clear();
+        std::filesystem::copy_file(FsPath(workingFile_), FsPath(check), error);
+        if (error)
+            return false;
+    }
+    bool same = false;
+    {
+        QSettings reread(check, QSettings::IniFormat);
+        reread.setFallbacksEnabled(false);
+        while (!settings_->group().isEmpty())
+            settings_->endGroup();
+        const QStringList keys = settings_->allKeys();
+        same = reread.status() == QSettings::NoError && reread.allKeys().size() == keys.size();
+        for (const QString& key : keys) {
+            if (!same)
+                break;
+            same = reread.value(key).toString() == settings_->value(key).toString();
+        }
+    }
+    QFile::remove(check);
+    return same;
+}
+
+void TQORStoreCtrl::DiscardWorkingCopy()
+{
+    if (!workingFile_.isEmpty())
+        QFile::remove(workingFile_);
+    workingFile_.clear();
+    targetFile_.clear();
+}
+
+bool TQORStoreCtrl::FinishWriting()
+{
+    if (!settings_)
+        return false;
+    if (!writing_) {
+        // Only read from (or every write was dropped): nothing to write back.
+        settings_.reset();
+        return status_ == QSettings::NoError;
+    }
     settings_->sync();
     status_ = settings_->status();
+    bool ok = status_ == QSettings::NoError;
+    if (!workingFile_.isEmpty()) {
+        ok = ok && VerifyWorkingCopy();
+        settings_.reset();
+        std::error_code error;
+        if (ok)
+            std::filesystem::rename(FsPath(workingFile_), FsPath(targetFile_), error);
+        ok = ok && !error;
+        if (ok)
+            workingFile_.clear(); // it is the settings file now
+        DiscardWorkingCopy();
+        if (!ok)
+            status_ = QSettings::AccessError;
+    }
     settings_.reset();
-    return status_ == QSettings::NoError;
+    writing_ = false;
+    return ok;
 }
 
 bool TQORStoreCtrl::ReadBoolean(const QString& key, bool defaultValue)
@@ -143,8 +282,8 @@ bool TQORStoreCtrl::ReadBoolean(const QString& key, bool defaultValue)
 void TQORStoreCtrl::WriteBoolean(const QString& key, bool value)
 {
     Session session(*this);
-    if (session.Settings())
-        session.Settings()->setValue(key, value);
+    if (QSettings* settings = session.Writable())
+        settings->setValue(key, value);
 }
 
 std::int64_t TQORStoreCtrl::ReadInt64(const QString& key, std::int64_t defaultValue)
@@ -160,8 +299,8 @@ std::int64_t TQORStoreCtrl::ReadInt64(const QString& key, std::int64_t defaultVa
 void TQORStoreCtrl::WriteInt64(const QString& key, std::int64_t value)
 {
     Session session(*this);
-    if (session.Settings())
-        session.Settings()->setValue(key, QString::number(static_cast<qlonglong>(value)));
+    if (QSettings* settings = session.Writable())
+        settings->setValue(key, QString::number(static_cast<qlonglong>(value)));
 }
 
 std::int32_t TQORStoreCtrl::ReadInteger(const QString& key, std::int32_t defaultValue)
@@ -193,9 +332,9 @@ void TQORStoreCtrl::WriteFloat(const QString& key, double value)
     else if (std::isinf(value))
         value = std::copysign(std::numeric_limits<double>::max(), value);
     Session session(*this);
-    if (session.Settings())
-        session.Settings()->setValue(
-            key, QString::number(value, 'g', std::numeric_limits<double>::max_digits10));
+    if (QSettings* settings = session.Writable())
+        settings->setValue(key,
+                           QString::number(value, 'g', std::numeric_limits<double>::max_digits10));
 }
 
 Extended TQORStoreCtrl::ReadExtended(const QString& key, Extended defaultValue)
@@ -233,8 +372,8 @@ QString TQORStoreCtrl::ReadString(const QString& key, const QString& defaultValu
 void TQORStoreCtrl::WriteString(const QString& key, const QString& value)
 {
     Session session(*this);
-    if (session.Settings())
-        session.Settings()->setValue(key, value);
+    if (QSettings* settings = session.Writable())
+        settings->setValue(key, value);
 }
 
 bool TQORStoreCtrl::ValueExists(const QString& key)
@@ -246,15 +385,15 @@ bool TQORStoreCtrl::ValueExists(const QString& key)
 void TQORStoreCtrl::EraseKey(const QString& key)
 {
     Session session(*this);
-    if (session.Settings())
-        session.Settings()->remove(key);
+    if (QSettings* settings = session.Writable())
+        settings->remove(key);
 }
 
 void TQORStoreCtrl::EraseSection()
 {
     Session session(*this);
-    if (session.Settings())
-        session.Settings()->remove(QString());
+    if (QSettings* settings = session.Writable())
+        settings->remove(QString());
 }
 
 void TQORStoreCtrl::AddToNotifyList(QObject* component) { notifyList_.Add(component); }

@@ -4,8 +4,11 @@
 // path, an INI file, or nothing at all, as RegIniType chooses. Keys live in a section:
 // OpenStorage(section) enters it (an empty name means the store's own Section), typed reads
 // return the default when the key is missing or unreadable, and CloseStorage writes the
-// changes back. INI files are replaced atomically (written to a new file, synced, renamed
-// over the old one), so a crash or a full disk leaves the previous file readable.
+// changes back. Settings files are never written in place: the first write of a session
+// moves the session onto a working copy beside the file; the last close writes that copy,
+// reads it back through a second name to check that every key arrived, and only then
+// renames it over the old file. A crash or a full disk therefore leaves the previous file
+// readable, and CloseStorage reports the failure.
 //
 // Components that refer to a store register with AddToNotifyList; when the store is
 // destroyed each registered component that implements IQORNotifyClient hears of it through
@@ -92,6 +95,12 @@ private:
     void SetRegIniTypeValue(int value);
     std::unique_ptr<QSettings> CreateSettings() const;
     void EnterTopSection();
+    // Moves the open session onto a working copy of its file (once); false when writing is
+    // impossible, and the write is then dropped.
+    bool BeginWriting();
+    bool VerifyWorkingCopy();
+    bool FinishWriting();
+    void DiscardWorkingCopy();
     class Session;
 
     TQORRegIniType regIniType_ = ritNone;
@@ -100,6 +109,9 @@ private:
     QString section_ = QString::fromLatin1(QORDefaultStoreSection);
     std::unique_ptr<QSettings> settings_;
     std::vector<QString> sections_;
+    bool writing_ = false;
+    QString targetFile_; // the settings file a working copy replaces
+    QString workingFile_;
     QSettings::Status status_ = QSettings::NoError;
     TQORNotifyList notifyList_;
 };

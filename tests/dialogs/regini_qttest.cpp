@@ -1,0 +1,151 @@
+// Loading and saving the calculator settings: both stores, names left empty, missing keys,
+// and a memory that a double cannot carry.
+#include "QORKITRegIni.h"
+#include "QORKITSettings.h"
+#include "QorkitTestSupport.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <cfloat>
+
+namespace qorkit {
+namespace {
+
+class RegIniTest : public test::GlobalStateTest {
+protected:
+    void SetUp() override
+    {
+        GlobalStateTest::SetUp();
+        ASSERT_TRUE(dir_.isValid());
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, dir_.path());
+    }
+    void UseIni()
+    {
+        QORRegIniType = ritIniFile;
+        QORIniFile = dir_.filePath(QStringLiteral("calc.ini")).toStdString();
+        QORIniSection = "Calculator";
+    }
+    void UseRegistry()
+    {
+        QORRegIniType = ritRegistry;
+        QORRegPath = "Software/QorkitTests/Calc";
+        QORRegSection = "Calculator";
+    }
+    void SetVariables(bool radians, Extended memory, const std::string& font)
+    {
+        QORCalcRadians = radians;
+        QORCalcMemory = memory;
+        QORCalcDispFont = font;
+    }
+    QTemporaryDir dir_;
+};
+
+TEST_F(RegIniTest, IniRoundTripKeepsDoublePrecisionOfTheMemory)
+{
+    UseIni();
+    SetVariables(false, 1.0L / 3.0L, "Arial,12,-1,5,75,0,0,0,0,0");
+    SaveCalculatorSettings();
+    SetVariables(true, 7, "Other");
+    LoadCalculatorSettings();
+    EXPECT_FALSE(QORCalcRadians);
+    EXPECT_EQ(QORCalcMemory, static_cast<Extended>(1.0 / 3.0));
+    EXPECT_NE(QORCalcMemory, 1.0L / 3.0L);
+    EXPECT_EQ(QORCalcDispFont, "Arial,12,-1,5,75,0,0,0,0,0");
+
+    QSettings file(QString::fromStdString(QORIniFile), QSettings::IniFormat);
+    EXPECT_EQ(file.value(QStringLiteral("Calculator/Radians")).toString(), QStringLiteral("false"));
+}
+
+TEST_F(RegIniTest, NativeStoreRoundTrip)
+{
+    UseRegistry();
+    SetVariables(false, -2.5L, "Courier");
+    SaveCalculatorSettings();
+    SetVariables(true, 0, "");
+    LoadCalculatorSettings();
+    EXPECT_FALSE(QORCalcRadians);
+    EXPECT_EQ(QORCalcMemory, -2.5L);
+    EXPECT_EQ(QORCalcDispFont, "Courier");
+}
+
+struct EmptyNameCase {
+    const char* name;
+    TQORRegIniType type;
+    const char* path;
+    const char* section;
+};
+
+class RegIniEmptyNames : public RegIniTest, public ::testing::WithParamInterface<EmptyNameCase> { };
+
+TEST_P(RegIniEmptyNames, NothingIsLoadedOrSaved)
+{
+    // A complete store on disk under every name, to show that nothing is read from it.
+    UseIni();
+    UseRegistry();
+    SetVariables(false, 99, "Stored");
+    SaveCalculatorSettings();
+    QORRegIniType = ritIniFile;
+    SaveCalculatorSettings();
+
+    const EmptyNameCase& c = GetParam();
+    QORRegIniType = c.type;
+    QORRegPath = c.path;
+    QORIniFile = *c.path ? dir_.filePath(QString::fromLatin1(c.path)).toStdString() : "";
+    QORRegSection = QORIniSection = c.section;
+    SetVariables(true, 1.25L, "Kept");
+    LoadCalculatorSettings();
+    EXPECT_TRUE(QORCalcRadians);
+    EXPECT_EQ(QORCalcMemory, 1.25L);
+    EXPECT_EQ(QORCalcDispFont, "Kept");
+
+    const QStringList before = QDir(dir_.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    SaveCalculatorSettings();
+    EXPECT_EQ(QDir(dir_.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), before);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Names, RegIniEmptyNames,
+    ::testing::Values(
+        EmptyNameCase {"NoPersistence", ritNone, "Software/QorkitTests/Calc", "Calculator"},
+        EmptyNameCase {"RegistryWithoutPath", ritRegistry, "", "Calculator"},
+        EmptyNameCase {"RegistryWithoutSection", ritRegistry, "Software/QorkitTests/Calc", ""},
+        EmptyNameCase {"IniWithoutFile", ritIniFile, "", "Calculator"},
+        EmptyNameCase {"IniWithoutSection", ritIniFile, "calc.ini", ""}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(RegIniTest, MissingKeysKeepThePresentValues)
+{
+    UseIni();
+    QFile file(QString::fromStdString(QORIniFile));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("[Calculator]\nRadians=false\n[Elsewhere]\nMemory=5\nDispFont=Wrong\n");
+    file.close();
+    SetVariables(true, 1.0L / 3.0L, "Mine");
+    LoadCalculatorSettings();
+    EXPECT_FALSE(QORCalcRadians);
+    EXPECT_EQ(QORCalcMemory, 1.0L / 3.0L); // not even rounded to a double
+    EXPECT_EQ(QORCalcDispFont, "Mine");
+}
+
+TEST_F(RegIniTest, MemoryBeyondDoubleRangeDoesNotComeBackUnchanged)
+{
+    UseIni();
+    SetVariables(true, 1e400L, "");
+    SaveCalculatorSettings();
+    LoadCalculatorSettings();
+    EXPECT_NE(QORCalcMemory, 1e400L);
+    EXPECT_EQ(QORCalcMemory, static_cast<Extended>(DBL_MAX));
+
+    SetVariables(true, -1e-4000L, "");
+    SaveCalculatorSettings();
+    LoadCalculatorSettings();
+    EXPECT_EQ(QORCalcMemory, 0);
+}
+
+} // namespace
+} // namespace qorkit
