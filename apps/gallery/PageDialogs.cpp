@@ -1,0 +1,94 @@
+// The calculator dialogs: buttons that open each one through its component, with the result
+// shown beside them. The screenshot run writes the standard, small, scientific and
+// programmer's calculators.
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "GalleryPages.h"
+#include "QORKITCalculator.h"
+#include "QORKITProgCalculator.h"
+#include "QORKITSciCalculator.h"
+
+namespace {
+
+using namespace qorkit;
+
+QWidget* MakeDialogsPage(QWidget* parent)
+{
+    auto* page = new QWidget(parent);
+    auto* layout = new QFormLayout(page);
+    auto* calculator = new TQORCalculator(page);
+    auto* small = new TQORCalculator(page);
+    small->SetSmallCalc(true);
+    auto* sci = new TQORSciCalculator(page);
+    auto* prog = new TQORProgCalculator(page);
+    prog->SetValue(0x2A);
+
+    const auto addRow = [page, layout](const QString& caption, auto run) {
+        auto* button = new QPushButton(caption, page);
+        auto* result = new QLabel(page);
+        QObject::connect(button, &QPushButton::clicked, page,
+                         [result, run] { result->setText(run()); });
+        layout->addRow(button, result);
+    };
+    const auto floatResult = [](TQORFloatCalcComponent* component, bool accepted) {
+        return accepted ? QString::number(static_cast<double>(component->GetValue()), 'g', 15)
+                        : QStringLiteral("cancelled");
+    };
+    addRow(QStringLiteral("Calculator..."),
+           [=] { return floatResult(calculator, calculator->Execute()); });
+    addRow(QStringLiteral("Small calculator..."),
+           [=] { return floatResult(small, small->Execute()); });
+    addRow(QStringLiteral("Scientific calculator..."),
+           [=] { return floatResult(sci, sci->Execute()); });
+    addRow(QStringLiteral("Programmer's calculator..."), [=] {
+        return prog->Execute() ? QString::number(prog->GetValue()) : QStringLiteral("cancelled");
+    });
+    addRow(QStringLiteral("DisplayCalc..."), [] {
+        Extended value = 100;
+        return DisplayCalc("DisplayCalc", value, 2, false)
+            ? QString::number(static_cast<double>(value), 'g', 15)
+            : QStringLiteral("cancelled");
+    });
+    return page;
+}
+
+// A calculator with a calculation under way, so the pictures show real content.
+template<class Form> Form* FloatShot(bool small)
+{
+    auto* form = new Form;
+    if constexpr (std::is_same_v<Form, TQORCalcForm>)
+        form->SetHideFnBtns(small);
+    TQORCalcEngine& engine = form->GetCalcEngine();
+    engine.SetMemory(42);
+    engine.InputValue(1234.5678L);
+    engine.DoMultiply();
+    engine.InputDigit(2);
+    form->RefreshDisplays();
+    return form;
+}
+
+std::vector<std::pair<QString, QWidget*>> DialogShots()
+{
+    auto* prog = new TQORProgCalcForm;
+    IQORProgCalcEngine& engine = prog->GetCalcEngine();
+    engine.SetBitSize(bs16Bits);
+    engine.SetBaseDisplay(bdBinary);
+    engine.SetSpacing(psByte);
+    engine.InputValue(0x5AC3);
+    engine.SetMemory(0xFF);
+    prog->RefreshDisplays();
+    return {
+        {QStringLiteral("dialog-calculator.png"), FloatShot<TQORCalcForm>(false)},
+        {QStringLiteral("dialog-small-calculator.png"), FloatShot<TQORCalcForm>(true)},
+        {QStringLiteral("dialog-sci-calculator.png"), FloatShot<TQORSciCalcForm>(false)},
+        {QStringLiteral("dialog-prog-calculator-binary.png"), prog},
+    };
+}
+
+const bool registered = gallery::RegisterPage(
+    {QStringLiteral("Calculator dialogs"), 60, MakeDialogsPage, DialogShots});
+
+} // namespace
