@@ -125,7 +125,17 @@ inline constexpr std::string_view ConvTypeTexts[] = {QORKIT_UC_CONV_NAMES(QORKIT
 QORKIT_QUANTITY_LIST(QORKIT_UC_TEXTS)
 #undef QORKIT_UC_TEXTS
 #undef QORKIT_UC_TEXT
+#define QORKIT_UC_MEMBER(member, text) std::string_view(#member),
+inline constexpr std::string_view ConvTypeMembers[] = {QORKIT_UC_CONV_NAMES(QORKIT_UC_MEMBER)};
+#undef QORKIT_UC_MEMBER
 } // namespace detail
+
+// The member name of a quantity ("ectDistance"); empty when out of range.
+constexpr std::string_view QuantityMemberName(TQORConvType quantity) noexcept
+{
+    return quantity < std::size(detail::ConvTypeMembers) ? detail::ConvTypeMembers[quantity]
+                                                         : std::string_view();
+}
 
 inline constexpr TQORNamesArray<TQORConvType, std::size(detail::ConvTypeTexts)> QORConvTypeStr {
     detail::ConvTypeTexts};
