@@ -152,7 +152,7 @@ void PressKey(TQORProgCalcEngine& e, std::uint8_t key, std::uint8_t arg)
         (void)e.GetDisplayValueOct();
         break;
     case 44:
-        e.SetMemory(static_cast<std::int64_t>(0x8000000000000000ULL >> (arg & 63U)) * -1);
+        e.SetMemory(static_cast<std::int64_t>(0ULL - (0x8000000000000000ULL >> (arg & 63U))));
         break;
     default:
         e.InputDigit(kDigits[arg % (sizeof kDigits - 1)]);

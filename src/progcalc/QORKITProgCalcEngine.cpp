@@ -160,16 +160,17 @@ std::int64_t RotateRight(std::int64_t a, int bits, int count)
     }
 }
 
-// Signed decimal text of an entry: blanks ignored, an optional sign, digits. A lone sign or
-// empty text is 0; values beyond the int64 range wrap modulo 2^64 like the rest of the
+// Signed decimal text of an entry: blanks ignored, leading signs, digits. Signs alone or
+// empty text are 0; values beyond the int64 range wrap modulo 2^64 like the rest of the
 // engine's arithmetic.
 std::int64_t ParseDecimalEntry(const std::string& text)
 {
     std::string s = RemoveGroupSpacing(text, ' ');
     std::size_t i = 0;
     bool negative = false;
-    if (i < s.size() && (s[i] == '+' || s[i] == '-'))
-        negative = s[i++] == '-';
+    // Signs typed in front of each other stay when no clean-up rule removes them ("++5").
+    for (; i < s.size() && (s[i] == '+' || s[i] == '-'); ++i)
+        negative = negative != (s[i] == '-');
     std::uint64_t magnitude = 0;
     for (; i < s.size(); ++i) {
         if (s[i] < '0' || s[i] > '9')

@@ -93,6 +93,7 @@ const ProgCase kEntryRows[] = {
     // The second sign goes in front of the first: "-" then "+" reads "+-", a minus.
     {.name = "DecPlusInFrontOfMinus", .base = bdDecimal, .keys = "-+", .display = "-", .value = 0},
     {.name = "DecMinusInFrontOfPlus", .base = bdDecimal, .keys = "+-", .display = "0", .value = 0},
+    {.name = "DecRepeatedPlusKept", .base = bdDecimal, .keys = "++5", .display = "++5", .value = 5},
     {.name = "DecSignedEntryUsed",
      .base = bdDecimal,
      .keys = "-12+5=",
