@@ -22,25 +22,16 @@ void PlainMultiplication(benchmark::State& state)
 }
 BENCHMARK(PlainMultiplication);
 
-void RoutineFeetToInches(benchmark::State& state)
+void Routine(benchmark::State& state, Extended (*routine)(Extended))
 {
     Extended value = 1.5L;
     for (auto _ : state) {
-        benchmark::DoNotOptimize(DistFeet2Inches(value));
+        benchmark::DoNotOptimize(routine(value));
     }
     state.SetItemsProcessed(state.iterations());
 }
-BENCHMARK(RoutineFeetToInches);
-
-void RoutineMilesToKm(benchmark::State& state)
-{
-    Extended value = 1.5L;
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(DistMiles2Km(value));
-    }
-    state.SetItemsProcessed(state.iterations());
-}
-BENCHMARK(RoutineMilesToKm);
+BENCHMARK_CAPTURE(Routine, FeetToInches, DistFeet2Inches);
+BENCHMARK_CAPTURE(Routine, MilesToKm, DistMiles2Km);
 
 void GenericConvert(benchmark::State& state, TQORConvType quantity, std::size_t from,
                     std::size_t to)
