@@ -5,6 +5,10 @@
 
 #include <benchmark/benchmark.h>
 
+#ifdef QORKIT_HAVE_MUPARSER
+#include <muParser.h>
+#endif
+
 #include <cstdlib>
 #include <string>
 #include <string_view>
@@ -129,5 +133,47 @@ void BM_PeerStrtoldNumbers(benchmark::State& state)
     state.SetItemsProcessed(state.iterations() * static_cast<long>(std::size(Expressions)));
 }
 BENCHMARK(BM_PeerStrtoldNumbers);
+
+// The same expressions written for both evaluators (muparser spells pi "_pi" and has no
+// "floor" or "%"), each parsed and evaluated from scratch: a one-shot evaluation as a host
+// would do it for a value typed into a field.
+struct CommonExpression {
+    const char* Ours;
+    const char* Muparser;
+};
+constexpr CommonExpression CommonExpressions[] = {
+    {"2+3*4", "2+3*4"},
+    {"(1.5+2.25)*4-7/2", "(1.5+2.25)*4-7/2"},
+    {"sqrt(2)*pi", "sqrt(2)*_pi"},
+    {"sin(30)+cos(60)", "sin(30)+cos(60)"},
+    {"2^10/7", "2^10/7"},
+    {"1e3/8+ln(10)", "1e3/8+ln(10)"},
+    {"abs(-3.5)*2.7", "abs(-3.5)*2.7"},
+    {"((1+2)*(3+4))/(5-6)", "((1+2)*(3+4))/(5-6)"},
+};
+
+void BM_EvaluateStrCommonSet(benchmark::State& state)
+{
+    for (auto _ : state)
+        for (const auto& e : CommonExpressions)
+            benchmark::DoNotOptimize(EvaluateStr(e.Ours, amRadians));
+    state.SetItemsProcessed(state.iterations() * static_cast<long>(std::size(CommonExpressions)));
+}
+BENCHMARK(BM_EvaluateStrCommonSet);
+
+#ifdef QORKIT_HAVE_MUPARSER
+void BM_PeerMuparserOneShot(benchmark::State& state)
+{
+    for (auto _ : state) {
+        for (const auto& e : CommonExpressions) {
+            mu::Parser parser;
+            parser.SetExpr(e.Muparser);
+            benchmark::DoNotOptimize(parser.Eval());
+        }
+    }
+    state.SetItemsProcessed(state.iterations() * static_cast<long>(std::size(CommonExpressions)));
+}
+BENCHMARK(BM_PeerMuparserOneShot);
+#endif
 
 } // namespace

@@ -57,11 +57,51 @@ void CheckFinite(Extended value)
         throw EOverflow(rsOverflow());
 }
 
+// Exact digits of a value with a short binary fraction: |value| = m / 2^k with m < 2^64 and
+// k <= 24 has the finite decimal expansion m * 5^k / 10^k. When that expansion has at most
+// kSignificantDigits digits it is exactly what the general path below produces, only much
+// faster; calculator values (integers, halves, quarters, cents that are whole binary fractions)
+// mostly take this path. Returns false when the value does not qualify.
+bool ExactShortDigits(Extended magnitude, Digits& result)
+{
+    constexpr int maxShift = 24;
+    constexpr Extended two64 = 18446744073709551616.0L;
+    Extended scaled = magnitude;
+    int k = 0;
+    while (scaled != std::floor(scaled)) {
+        if (++k > maxShift)
+            return false;
+        scaled *= 2; // exact: only the exponent changes
+    }
+    if (scaled >= two64)
+        return false;
+    __extension__ typedef unsigned __int128 UInt128;
+    UInt128 n = static_cast<std::uint64_t>(scaled);
+    for (int i = 0; i < k; ++i)
+        n *= 5;
+    char buffer[48];
+    int length = 0;
+    for (; n != 0; n /= 10)
+        buffer[length++] = static_cast<char>('0' + static_cast<int>(n % 10));
+    // buffer holds the digits of m * 5^k backwards; the value is that integer / 10^k.
+    int low = 0;
+    while (low < length && buffer[low] == '0')
+        ++low;
+    if (length - low > kSignificantDigits)
+        return false;
+    result.D.assign(buffer + low, buffer + length);
+    std::reverse(result.D.begin(), result.D.end());
+    result.P = length - k;
+    return true;
+}
+
 // Magnitude digits of a finite value (the sign is the caller's business).
 Digits ToDigits(Extended value)
 {
     Digits result;
     if (value == 0)
+        return result;
+    if (ExactShortDigits(std::fabs(value), result))
         return result;
     char buffer[64];
     const auto [end, ec] = std::to_chars(buffer, buffer + sizeof buffer, std::fabs(value),

@@ -13,8 +13,10 @@
 #include <cctype>
 #include <charconv>
 #include <cmath>
+#include <cstdio>
 #include <limits>
 #include <optional>
+#include <random>
 #include <string>
 
 namespace qorkit {
@@ -144,6 +146,33 @@ TEST_F(GlobalStateTest, LargestExtendedFormatsInFull)
     EXPECT_EQ(text.substr(text.size() - 3), ".00");
     EXPECT_EQ(SciFloat2EStr(-big, 3), "-1.190E+4932");
     EXPECT_EQ(Str2Float(SciFloat2EStr(1e4932L, 17)), 1e4932L);
+}
+
+// Binary fractions with a short decimal expansion are written exactly: the text must be the
+// exact decimal value, which the C library prints exactly as well when no rounding is needed.
+TEST_F(GlobalStateTest, ShortBinaryFractionsAreExact)
+{
+    std::mt19937_64 random(20261121);
+    int checked = 0;
+    for (int i = 0; i < 20000; ++i) {
+        const auto m = random() >> (14 + random() % 50);
+        const int k = static_cast<int>(random() % 25);
+        const Extended value = std::ldexp(static_cast<Extended>(m), -k) * (i % 2 ? -1 : 1);
+        char expected[160];
+        std::snprintf(expected, sizeof expected, "%.24Lf", value);
+        // Only values of at most 18 significant digits are written without rounding.
+        std::string digits(expected);
+        digits.erase(
+            std::remove_if(digits.begin(), digits.end(), [](char c) { return c < '0' || c > '9'; }),
+            digits.end());
+        const auto first = digits.find_first_not_of('0');
+        const auto last = digits.find_last_not_of('0');
+        if (first == std::string::npos || last - first + 1 > 18 || value == 0)
+            continue;
+        ++checked;
+        ASSERT_EQ(Float2EStr(value, 24), expected) << m << " / 2^" << k;
+    }
+    EXPECT_GT(checked, 5000);
 }
 
 // ---- Parsing -------------------------------------------------------------------------------
