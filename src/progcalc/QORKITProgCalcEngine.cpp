@@ -67,6 +67,30 @@ std::string OperatorHistoryText(char op)
     }
 }
 
+// The operand slot of a word size.
+std::int64_t SlotOfSize(TQORBitSize size, std::int8_t b8, std::int16_t b16, std::int32_t b32,
+                        std::int64_t b64)
+{
+    const std::int64_t slots[] = {b8, b16, b32, b64};
+    return slots[size & 3U];
+}
+
+// Texts by ordinal; the last entry also answers for values outside the enumeration.
+using TTextFn = std::string (*)();
+constexpr TTextFn kBaseNames[] = {rsComboBin, rsComboDec, rsComboHex, rsComboOct};
+// The octal base answers "Hex": intended, kept. History lines use kBaseNames.
+constexpr TTextFn kBaseDisplayTexts[] = {rsComboBin, rsComboDec, rsComboHex, rsComboHex};
+constexpr TTextFn kBitSizeTexts[] = {rsCombo8Bits, rsCombo16Bits, rsCombo32Bits, rsCombo64Bits};
+constexpr TTextFn kSpacingTexts[]
+    = {rsSpacingNone, rsSpacingByte, rsSpacingWord, rsSpacingDWord, rsSpacingNone};
+constexpr TTextFn kSizeChangeTexts[]
+    = {rsChangeClear, rsChangeTruncate, rsChangeExtend, rsChangeClear};
+
+template<std::size_t N> std::string TextOf(const TTextFn (&table)[N], unsigned ordinal)
+{
+    return table[std::min<std::size_t>(ordinal, N - 1)]();
+}
+
 // Two-operand operators on b (left) and a (right), wrapping in the unsigned type U. The
 // division operators are handled by the caller.
 template<typename U> U ApplyBitsAndSums(char op, U b, U a)
@@ -258,10 +282,15 @@ std::string TQORProgCalcEngine::BinFromHex(const std::string& hex) const
     return RightStr(PadChLeftStr(Hex2Bin(hex), '0', 64), kDigitCounts[bitSize_ & 3U].Bin);
 }
 
+std::string TQORProgCalcEngine::GroupedFor(TQORBaseDisplay base, const std::string& s) const
+{
+    const int width = kGroupWidths[base & 3U][spacing_ & 3U];
+    return width == 0 ? s : GroupSpacing(s, width, ' ');
+}
+
 std::string TQORProgCalcEngine::Spaced(const std::string& s) const
 {
-    const int width = kGroupWidths[baseDisplay_ & 3U][spacing_ & 3U];
-    return width == 0 ? s : GroupSpacing(s, width, ' ');
+    return GroupedFor(baseDisplay_, s);
 }
 
 std::string TQORProgCalcEngine::DisplayValue(std::int64_t v) const
@@ -370,41 +399,25 @@ std::int64_t TQORProgCalcEngine::GetDisplayValue()
     return operandTop_ >= 0 ? operands_[static_cast<std::size_t>(operandTop_)] : 0;
 }
 
-std::string TQORProgCalcEngine::GetDisplayValueHex()
+// The value's text in one base, grouped with that base's widths whatever the current base is.
+// During entry the stored texts are used, and the binary getter answers with the octal text:
+// intended, kept. Otherwise the top operand's full pattern is converted, neither padded nor cut.
+std::string TQORProgCalcEngine::DisplayValueIn(TQORBaseDisplay textBase)
 {
     UpdateValues();
     std::string s;
-    if (!entry_.empty())
-        s = hexText_;
-    else if (operandTop_ >= 0)
-        s = Int2EHex(operands_[static_cast<std::size_t>(operandTop_)], 1);
-    const int width = kGroupWidths[bdHexadecimal][spacing_ & 3U];
-    return width == 0 ? s : GroupSpacing(s, width, ' ');
+    if (!entry_.empty()) {
+        s = textBase == bdHexadecimal ? hexText_ : octText_;
+    } else if (operandTop_ >= 0) {
+        const std::string hex = Int2EHex(operands_[static_cast<std::size_t>(operandTop_)], 1);
+        s = textBase == bdHexadecimal ? hex : textBase == bdOctal ? Hex2Oct(hex) : Hex2Bin(hex);
+    }
+    return GroupedFor(textBase, s);
 }
 
-std::string TQORProgCalcEngine::GetDisplayValueOct()
-{
-    UpdateValues();
-    std::string s;
-    if (!entry_.empty())
-        s = octText_;
-    else if (operandTop_ >= 0)
-        s = Hex2Oct(Int2EHex(operands_[static_cast<std::size_t>(operandTop_)], 1));
-    const int width = kGroupWidths[bdOctal][spacing_ & 3U];
-    return width == 0 ? s : GroupSpacing(s, width, ' ');
-}
-
-std::string TQORProgCalcEngine::GetDisplayValueBin()
-{
-    UpdateValues();
-    std::string s;
-    if (!entry_.empty())
-        s = octText_; // the octal text during entry: intended, kept
-    else if (operandTop_ >= 0)
-        s = Hex2Bin(Int2EHex(operands_[static_cast<std::size_t>(operandTop_)], 1));
-    const int width = kGroupWidths[bdBinary][spacing_ & 3U];
-    return width == 0 ? s : GroupSpacing(s, width, ' ');
-}
+std::string TQORProgCalcEngine::GetDisplayValueHex() { return DisplayValueIn(bdHexadecimal); }
+std::string TQORProgCalcEngine::GetDisplayValueOct() { return DisplayValueIn(bdOctal); }
+std::string TQORProgCalcEngine::GetDisplayValueBin() { return DisplayValueIn(bdBinary); }
 
 // ---- Entry ---------------------------------------------------------------------------------
 
@@ -586,30 +599,12 @@ void TQORProgCalcEngine::SetSizeValues()
 
 std::int64_t TQORProgCalcEngine::OperandA() const
 {
-    switch (bitSize_) {
-    case bs8Bits:
-        return byteA_;
-    case bs16Bits:
-        return wordA_;
-    case bs32Bits:
-        return longA_;
-    default:
-        return int64A_;
-    }
+    return SlotOfSize(bitSize_, byteA_, wordA_, longA_, int64A_);
 }
 
 std::int64_t TQORProgCalcEngine::OperandB() const
 {
-    switch (bitSize_) {
-    case bs8Bits:
-        return byteB_;
-    case bs16Bits:
-        return wordB_;
-    case bs32Bits:
-        return longB_;
-    default:
-        return int64B_;
-    }
+    return SlotOfSize(bitSize_, byteB_, wordB_, longB_, int64B_);
 }
 
 // B op A at the word size. 64 bits wrap in 64 bits; every smaller size works on the operands
@@ -889,9 +884,7 @@ void TQORProgCalcEngine::SetBaseDisplay(TQORBaseDisplay value)
     }
     if (!pending)
         SetDisplayValue(CurrentText());
-    static constexpr std::array<std::string (*)(), 4> kBaseNames {rsComboBin, rsComboDec,
-                                                                  rsComboHex, rsComboOct};
-    AddToHistory(kBaseNames[value & 3U]());
+    AddToHistory(TextOf(kBaseNames, value));
     Notify(onMemoryChange_);
 }
 
@@ -947,9 +940,7 @@ void TQORProgCalcEngine::SetBitSize(TQORBitSize value)
     default:
         break; // truncate: the result below is cut to the new size
     }
-    static constexpr std::array<std::string (*)(), 4> kSizeNames {rsCombo8Bits, rsCombo16Bits,
-                                                                  rsCombo32Bits, rsCombo64Bits};
-    AddToHistory(kSizeNames[value & 3U]());
+    AddToHistory(TextOf(kBitSizeTexts, value));
     SetDisplayValue(CurrentText());
     Notify(onMemoryChange_);
     // Completes any half-entered expression at the new width.
@@ -991,54 +982,15 @@ void TQORProgCalcEngine::SetSpacing(TQORProgSpacing value)
 
 std::string TQORProgCalcEngine::GetBaseDisplayStr() const
 {
-    switch (baseDisplay_) {
-    case bdBinary:
-        return rsComboBin();
-    case bdDecimal:
-        return rsComboDec();
-    default:
-        return rsComboHex(); // octal answers "Hex" too: intended, kept
-    }
+    return TextOf(kBaseDisplayTexts, baseDisplay_);
 }
 
-std::string TQORProgCalcEngine::GetBitSizeStr() const
-{
-    switch (bitSize_) {
-    case bs8Bits:
-        return rsCombo8Bits();
-    case bs16Bits:
-        return rsCombo16Bits();
-    case bs32Bits:
-        return rsCombo32Bits();
-    default:
-        return rsCombo64Bits();
-    }
-}
-
-std::string TQORProgCalcEngine::GetSpacingStr() const
-{
-    switch (spacing_) {
-    case psByte:
-        return rsSpacingByte();
-    case psWord:
-        return rsSpacingWord();
-    case psDWord:
-        return rsSpacingDWord();
-    default:
-        return rsSpacingNone();
-    }
-}
+std::string TQORProgCalcEngine::GetBitSizeStr() const { return TextOf(kBitSizeTexts, bitSize_); }
+std::string TQORProgCalcEngine::GetSpacingStr() const { return TextOf(kSpacingTexts, spacing_); }
 
 std::string TQORProgCalcEngine::GetSizeChangeStr() const
 {
-    switch (sizeChange_) {
-    case pscTruncate:
-        return rsChangeTruncate();
-    case pscExtend:
-        return rsChangeExtend();
-    default:
-        return rsChangeClear();
-    }
+    return TextOf(kSizeChangeTexts, sizeChange_);
 }
 
 // ---- Memory --------------------------------------------------------------------------------
@@ -1131,7 +1083,7 @@ std::string TQORProgCalcEngine::GetLastHistoryEntry() const
     const std::string& line = history_.back();
     if (line.empty() || !std::isxdigit(static_cast<unsigned char>(line.front())))
         return line;
-    for (auto sizeName : {rsCombo8Bits, rsCombo16Bits, rsCombo32Bits, rsCombo64Bits})
+    for (TTextFn sizeName : kBitSizeTexts)
         if (line == sizeName())
             return line;
     return Spaced(RemoveGroupSpacing(line, ' '));

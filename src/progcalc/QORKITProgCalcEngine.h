@@ -117,7 +117,10 @@ public:
     virtual std::uint8_t GetMaxDisplayLength() const = 0;
     virtual void SetMaxDisplayLength(std::uint8_t value) = 0;
 
-    // Notifications, each called only when assigned.
+    // Notifications, each called only when assigned: OnHistoryChange (a line was added),
+    // OnDisplayChange, OnError, OnMemoryChange (also when the memory's text changes with the
+    // base, size or spacing), OnBaseDisplayChange, OnBitSizeChange, OnSpacingChange and
+    // OnSizeChangeChange (never raised by the engine itself).
     virtual TQORProgCalcNotifyEvent GetOnHistoryChange() const = 0;
     virtual void SetOnHistoryChange(TQORProgCalcNotifyEvent handler) = 0;
     virtual TQORProgCalcNotifyEvent GetOnDisplayChange() const = 0;
@@ -296,6 +299,8 @@ private:
     std::string BinFromHex(const std::string& hex) const;
     std::string CutHex(std::int64_t v) const;
     std::string Spaced(const std::string& s) const;
+    std::string GroupedFor(TQORBaseDisplay base, const std::string& s) const;
+    std::string DisplayValueIn(TQORBaseDisplay textBase);
     bool OperatorPending() const;
 
     // Operand slots, loaded with the word-size parts of the two top operands before each

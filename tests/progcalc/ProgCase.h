@@ -16,15 +16,14 @@ namespace qorkit::test {
 
 struct ProgCase {
     const char* name;
-    TQORBaseDisplay base = bdHexadecimal;
-    TQORBitSize size = bs64Bits;
-    const char* keys = "";
-    const char* display = "";
-    std::int64_t value = 0;
-    bool precedence = true;
-    bool prefix = true;
-    TQORProgSizeChange change = pscClear;
-    TQORProgSpacing spacing = psNoSpacing;
+    TQORBaseDisplay base;
+    TQORBitSize size;
+    const char* keys;
+    const char* display;
+    std::int64_t value;
+    // Words for modes other than the defaults: "noprec" (precedence off), "postfix" (NOT
+    // after its operand), "extend" / "truncate" (size changes), "byte" / "word" / "dword".
+    const char* modes = "";
 };
 
 inline std::ostream& operator<<(std::ostream& os, const ProgCase& c)
@@ -45,10 +44,15 @@ protected:
         const ProgCase& c = GetParam();
         driver.Setup(c.base, c.size);
         IQORProgCalcEngine& e = driver.Engine();
-        e.SetPrecedence(c.precedence);
-        e.SetPrefixFunctions(c.prefix);
-        e.SetSizeChange(c.change);
-        e.SetSpacing(c.spacing);
+        const std::string modes = c.modes;
+        auto has = [&modes](const char* word) { return modes.find(word) != std::string::npos; };
+        e.SetPrecedence(!has("noprec"));
+        e.SetPrefixFunctions(!has("postfix"));
+        e.SetSizeChange(has("extend") ? pscExtend : has("truncate") ? pscTruncate : pscClear);
+        e.SetSpacing(has("dword")      ? psDWord
+                         : has("word") ? psWord
+                         : has("byte") ? psByte
+                                       : psNoSpacing);
         driver.Press(c.keys);
         EXPECT_EQ(driver.Display(), c.display);
         EXPECT_EQ(driver.Value(), c.value);
