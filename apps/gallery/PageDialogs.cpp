@@ -1,15 +1,15 @@
 // The calculator dialogs: buttons that open each one through its component, with the result
 // shown beside them. The screenshot run writes the standard, small, scientific and
 // programmer's calculators.
-#include <QFormLayout>
-#include <QLabel>
-#include <QPushButton>
-#include <QVBoxLayout>
-
 #include "GalleryPages.h"
 #include "QORKITCalculator.h"
 #include "QORKITProgCalculator.h"
 #include "QORKITSciCalculator.h"
+
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
 
 namespace {
 

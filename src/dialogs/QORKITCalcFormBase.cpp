@@ -274,6 +274,7 @@ bool TQORCalcFormBase::eventFilter(QObject* watched, QEvent* event)
     forwarding_ = true;
     QCoreApplication::sendEvent(watched, event);
     forwarding_ = false;
+    event->accept(); // handled: the parents do not get it again
     return true;
 }
 

@@ -109,7 +109,8 @@ void TQORCalcForm::RedrawCalc()
     }
     const int rows = CalcGeometry.Rows - rowShift;
     PlaceKeys(places, rows);
-    LayoutPanels(rows);
+    // The small calculator is 2 (D + 3 H) + 3 high, two pixels less than the general rule.
+    LayoutPanels(rows, hideFnBtns_ ? -2 : 0);
     DPSpin->setGeometry(SpinCol * CalcGeometry.KeyWidth,
                         (SpinRow - rowShift) * CalcGeometry.KeyHeight, 2 * CalcGeometry.KeyWidth,
                         CalcGeometry.KeyHeight);
