@@ -6,7 +6,10 @@
 #include <QApplication>
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QTimer>
+
+#include <algorithm>
 
 namespace qorkit {
 
@@ -232,6 +235,8 @@ void TQORBaseEdit::DoSignChange(int sign)
 void TQORBaseEdit::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
+    if (onEnter_)
+        onEnter_(this);
     if (switchOnFocus_ && !isReadOnly()) {
         editing_ = true;
         Redisplay();
@@ -261,9 +266,105 @@ void TQORBaseEdit::focusOutEvent(QFocusEvent* event)
     }
     QLineEdit::focusOutEvent(event);
     UpdateColors();
+    if (onExit_)
+        onExit_(this);
 }
 
 void TQORBaseEdit::keyPressEvent(QKeyEvent* event)
+{
+    event->accept();
+    if (onKeyDown_)
+        onKeyDown_(this, event);
+    if (event->isAccepted() && onKeyPress_ && !event->text().isEmpty())
+        onKeyPress_(this, event);
+    if (event->isAccepted())
+        KeyDown(event);
+}
+
+void TQORBaseEdit::keyReleaseEvent(QKeyEvent* event)
+{
+    event->accept();
+    if (onKeyUp_)
+        onKeyUp_(this, event);
+    if (event->isAccepted())
+        KeyUp(event);
+}
+
+void TQORBaseEdit::KeyUp(QKeyEvent* event) { QLineEdit::keyReleaseEvent(event); }
+
+void TQORBaseEdit::mousePressEvent(QMouseEvent* event)
+{
+    event->accept();
+    if (onMouseDown_)
+        onMouseDown_(this, event);
+    if (event->isAccepted())
+        QLineEdit::mousePressEvent(event);
+}
+
+void TQORBaseEdit::mouseReleaseEvent(QMouseEvent* event)
+{
+    event->accept();
+    if (onMouseUp_)
+        onMouseUp_(this, event);
+    if (event->isAccepted())
+        QLineEdit::mouseReleaseEvent(event);
+    if (onClick_ && event->button() == Qt::LeftButton
+        && rect().contains(event->position().toPoint()))
+        onClick_(this);
+}
+
+void TQORBaseEdit::mouseMoveEvent(QMouseEvent* event)
+{
+    event->accept();
+    if (onMouseMove_)
+        onMouseMove_(this, event);
+    if (event->isAccepted())
+        QLineEdit::mouseMoveEvent(event);
+}
+
+void TQORBaseEdit::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    QLineEdit::mouseDoubleClickEvent(event);
+    if (onDblClick_)
+        onDblClick_(this);
+}
+
+void TQORBaseEdit::ClearUndo()
+{
+    // Setting the text is what empties the undo history.
+    const bool modified = isModified();
+    const int caret = cursorPosition();
+    setText(text());
+    setModified(modified);
+    setCursorPosition(caret);
+}
+
+int TQORBaseEdit::GetSelTextBuf(char* buffer, int bufferSize) const
+{
+    if (buffer == nullptr || bufferSize <= 0)
+        return 0;
+    const QByteArray bytes = selectedText().toUtf8();
+    const int count = static_cast<int>(std::min<qsizetype>(bytes.size(), bufferSize - 1));
+    std::copy_n(bytes.constData(), count, buffer);
+    buffer[count] = '\0';
+    return count;
+}
+
+void TQORBaseEdit::SetSelTextBuf(const char* value)
+{
+    insert(value ? QString::fromUtf8(value) : QString());
+}
+
+int TQORBaseEdit::GetSelStart() const
+{
+    return hasSelectedText() ? selectionStart() : cursorPosition();
+}
+
+void TQORBaseEdit::SetSelStart(int value) { setCursorPosition(value); }
+
+void TQORBaseEdit::SetSelLength(int value) { setSelection(GetSelStart(), std::max(value, 0)); }
+
+void TQORBaseEdit::KeyDown(QKeyEvent* event)
 {
     switch (event->key()) {
     case Qt::Key_Return:

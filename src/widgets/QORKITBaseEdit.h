@@ -57,6 +57,10 @@ class TQORBaseEdit : public QLineEdit {
     Q_PROPERTY(TQOREditColorSet* ColorSet READ GetColorSet)
     Q_PROPERTY(TQORUICtrl* UICtrl READ GetUICtrl WRITE SetUICtrl)
     Q_PROPERTY(int UIUsage READ GetUIUsageValue WRITE SetUIUsageValue)
+    Q_PROPERTY(int SelStart READ GetSelStart WRITE SetSelStart STORED false)
+    Q_PROPERTY(int SelLength READ GetSelLength WRITE SetSelLength STORED false)
+    Q_PROPERTY(QString SelText READ GetSelText WRITE SetSelText STORED false)
+    Q_PROPERTY(bool Modified READ isModified WRITE setModified STORED false)
 
 public:
     explicit TQORBaseEdit(QWidget* parent = nullptr);
@@ -122,6 +126,53 @@ public:
     int GetSign() const { return sign_; }
     bool IsEditing() const { return editing_; }
 
+    // Editing operations on the text.
+    void ClearSelection() { del(); }
+    void CopyToClipboard() { copy(); }
+    void CutToClipboard() { cut(); }
+    void PasteFromClipboard() { paste(); }
+    void Undo() { undo(); }
+    // Forgets the undo history, keeping the text, caret and modified flag.
+    void ClearUndo();
+    void SelectAll() { selectAll(); }
+    void SelectNone() { deselect(); }
+    bool IsClear() const { return text().isEmpty(); }
+    // Copies the selected text (UTF-8, NUL-terminated, cut to fit) into `buffer`; returns
+    // the number of bytes copied without the NUL.
+    int GetSelTextBuf(char* buffer, int bufferSize) const;
+    // Replaces the selection with `text` (UTF-8).
+    void SetSelTextBuf(const char* text);
+    // Start of the selection (the caret when nothing is selected), its length and text.
+    int GetSelStart() const;
+    void SetSelStart(int value);
+    int GetSelLength() const { return static_cast<int>(selectedText().size()); }
+    void SetSelLength(int value);
+    QString GetSelText() const { return selectedText(); }
+    void SetSelText(const QString& value) { insert(value); }
+
+    // The usual control events. A key or mouse handler that ignores the event
+    // (event->ignore()) keeps the edit from handling it.
+    void SetOnClick(TQORNotifyEvent e) { onClick_ = std::move(e); }
+    const TQORNotifyEvent& GetOnClick() const { return onClick_; }
+    void SetOnDblClick(TQORNotifyEvent e) { onDblClick_ = std::move(e); }
+    const TQORNotifyEvent& GetOnDblClick() const { return onDblClick_; }
+    void SetOnEnter(TQORNotifyEvent e) { onEnter_ = std::move(e); }
+    const TQORNotifyEvent& GetOnEnter() const { return onEnter_; }
+    void SetOnExit(TQORNotifyEvent e) { onExit_ = std::move(e); }
+    const TQORNotifyEvent& GetOnExit() const { return onExit_; }
+    void SetOnMouseDown(TQORMouseEvent e) { onMouseDown_ = std::move(e); }
+    const TQORMouseEvent& GetOnMouseDown() const { return onMouseDown_; }
+    void SetOnMouseUp(TQORMouseEvent e) { onMouseUp_ = std::move(e); }
+    const TQORMouseEvent& GetOnMouseUp() const { return onMouseUp_; }
+    void SetOnMouseMove(TQORMouseEvent e) { onMouseMove_ = std::move(e); }
+    const TQORMouseEvent& GetOnMouseMove() const { return onMouseMove_; }
+    void SetOnKeyDown(TQORKeyEvent e) { onKeyDown_ = std::move(e); }
+    const TQORKeyEvent& GetOnKeyDown() const { return onKeyDown_; }
+    void SetOnKeyPress(TQORKeyEvent e) { onKeyPress_ = std::move(e); }
+    const TQORKeyEvent& GetOnKeyPress() const { return onKeyPress_; }
+    void SetOnKeyUp(TQORKeyEvent e) { onKeyUp_ = std::move(e); }
+    const TQORKeyEvent& GetOnKeyUp() const { return onKeyUp_; }
+
     void SetOnChange(TQORNotifyEvent e) { onChange_ = std::move(e); }
     const TQORNotifyEvent& GetOnChange() const { return onChange_; }
     void SetOnNull(TQORNotifyEvent e) { onNull_ = std::move(e); }
@@ -157,9 +208,19 @@ protected:
     void SetSwitchTextOnFocus(bool value) { switchOnFocus_ = value; }
     void UpdateColors();
 
+    // The edit's own key handling (Enter takes the text over, Escape gives it up); derived
+    // edits extend these steps.
+    virtual void KeyDown(QKeyEvent* event);
+    virtual void KeyUp(QKeyEvent* event);
+
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
@@ -193,6 +254,16 @@ private:
     TQORNotifyEvent onColorSetChange_;
     TQORSpecialColorEvent onSpecialColor_;
     TQORValidationErrorEvent onValidationError_;
+    TQORNotifyEvent onClick_;
+    TQORNotifyEvent onDblClick_;
+    TQORNotifyEvent onEnter_;
+    TQORNotifyEvent onExit_;
+    TQORMouseEvent onMouseDown_;
+    TQORMouseEvent onMouseUp_;
+    TQORMouseEvent onMouseMove_;
+    TQORKeyEvent onKeyDown_;
+    TQORKeyEvent onKeyPress_;
+    TQORKeyEvent onKeyUp_;
 };
 
 class TQORStartEdit : public TQORBaseEdit {

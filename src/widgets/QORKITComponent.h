@@ -14,6 +14,9 @@
 #include <functional>
 #include <vector>
 
+class QKeyEvent;
+class QMouseEvent;
+
 namespace qorkit {
 
 using TQORNotifyEvent = std::function<void(QObject* sender)>;
@@ -24,6 +27,9 @@ using TQORValidationErrorEvent = std::function<void(QObject* sender, const QStri
 // Lets the host override the colours an edit is about to use.
 using TQORSpecialColorEvent
     = std::function<void(QObject* sender, QColor& background, QColor& text)>;
+
+using TQORKeyEvent = std::function<void(QObject* sender, QKeyEvent* event)>;
+using TQORMouseEvent = std::function<void(QObject* sender, QMouseEvent* event)>;
 
 enum TQOROperation : std::uint8_t { opInsert = 0, opRemove = 1 };
 

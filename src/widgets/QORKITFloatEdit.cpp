@@ -335,7 +335,7 @@ void TQORFloatEdit::Convert2Value()
         DoSignChange(SignOf(v));
 }
 
-void TQORFloatEdit::keyPressEvent(QKeyEvent* event)
+void TQORFloatEdit::KeyDown(QKeyEvent* event)
 {
     // The keypad's decimal key types the separator in force, whatever the keyboard layout.
     if ((event->modifiers() & Qt::KeypadModifier)
@@ -345,7 +345,7 @@ void TQORFloatEdit::keyPressEvent(QKeyEvent* event)
         event->accept();
         return;
     }
-    TQORStartEdit::keyPressEvent(event);
+    TQORStartEdit::KeyDown(event);
 }
 
 } // namespace qorkit

@@ -143,7 +143,7 @@ protected:
     void Convert2Value() override;
     bool DoBoundsValidation() override;
     bool ConvertWhenUnchanged() const override;
-    void keyPressEvent(QKeyEvent* event) override;
+    void KeyDown(QKeyEvent* event) override;
 
 private:
     int GetDecimalPlacesValue() const { return decimals_; }

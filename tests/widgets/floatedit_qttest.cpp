@@ -6,6 +6,7 @@
 #include "QtKeyDriver.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QVBoxLayout>
 
@@ -298,6 +299,40 @@ TEST_F(FloatEditTest, LookFollowsTheUIControlUntilItGoes)
     EXPECT_EQ(edit_->GetUICtrl(), nullptr);
     EXPECT_EQ(edit_->EffectiveColorSet(), edit_->GetColorSet());
     EXPECT_NE(edit_->palette().color(QPalette::Base), QColor(Qt::cyan));
+}
+
+} // namespace
+} // namespace qorkit
+
+namespace qorkit {
+namespace {
+
+TEST_F(FloatEditTest, KeyHandlersMaySwallowKeysAndEditOperationsWork)
+{
+    std::string seen;
+    edit_->SetOnKeyDown([&](QObject*, QKeyEvent* e) {
+        seen += e->text().toStdString();
+        if (e->text() == QLatin1String("5"))
+            e->ignore(); // the host takes this key away from the edit
+    });
+    Type(QStringLiteral("152"));
+    EXPECT_EQ(seen, "152");
+    EXPECT_EQ(edit_->GetValue(), 12);
+
+    edit_->setFocus(Qt::TabFocusReason);
+    test::TypeKeys(edit_, QStringLiteral("98.765")); // the handler still drops the "5"
+    edit_->SetSelStart(1);
+    edit_->SetSelLength(3);
+    EXPECT_EQ(edit_->GetSelText(), QStringLiteral("8.7"));
+    char buffer[3];
+    EXPECT_EQ(edit_->GetSelTextBuf(buffer, sizeof buffer), 2);
+    EXPECT_STREQ(buffer, "8.");
+    edit_->SetSelTextBuf("1");
+    EXPECT_EQ(edit_->text(), QStringLiteral("916"));
+    edit_->ClearUndo();
+    edit_->Undo();
+    EXPECT_EQ(edit_->text(), QStringLiteral("916"));
+    EXPECT_TRUE(edit_->isModified());
 }
 
 } // namespace
