@@ -75,6 +75,26 @@ std::int64_t SlotOfSize(TQORBitSize size, std::int8_t b8, std::int16_t b16, std:
     return slots[size & 3U];
 }
 
+// Loads the word-size part of v into the slot of that size.
+void LoadSlotOfSize(TQORBitSize size, std::int64_t v, std::int8_t& b8, std::int16_t& b16,
+                    std::int32_t& b32, std::int64_t& b64)
+{
+    switch (size) {
+    case bs8Bits:
+        b8 = static_cast<std::int8_t>(v);
+        break;
+    case bs16Bits:
+        b16 = static_cast<std::int16_t>(v);
+        break;
+    case bs32Bits:
+        b32 = static_cast<std::int32_t>(v);
+        break;
+    default:
+        b64 = v;
+        break;
+    }
+}
+
 // Texts by ordinal; the last entry also answers for values outside the enumeration.
 using TTextFn = std::string (*)();
 constexpr TTextFn kBaseNames[] = {rsComboBin, rsComboDec, rsComboHex, rsComboOct};
@@ -559,42 +579,15 @@ void TQORProgCalcEngine::SetSizeValueA(std::int64_t v)
     wordA_ = wordB_ = 0;
     longA_ = longB_ = 0;
     int64A_ = int64B_ = 0;
-    switch (bitSize_) {
-    case bs8Bits:
-        byteA_ = static_cast<std::int8_t>(v);
-        break;
-    case bs16Bits:
-        wordA_ = static_cast<std::int16_t>(v);
-        break;
-    case bs32Bits:
-        longA_ = static_cast<std::int32_t>(v);
-        break;
-    default:
-        int64A_ = v;
-        break;
-    }
+    LoadSlotOfSize(bitSize_, v, byteA_, wordA_, longA_, int64A_);
 }
 
 void TQORProgCalcEngine::SetSizeValues()
 {
     SetSizeValueA(operandTop_ >= 0 ? operands_[static_cast<std::size_t>(operandTop_)] : 0);
-    if (operandTop_ < 1)
-        return;
-    const std::int64_t b = operands_[static_cast<std::size_t>(operandTop_ - 1)];
-    switch (bitSize_) {
-    case bs8Bits:
-        byteB_ = static_cast<std::int8_t>(b);
-        break;
-    case bs16Bits:
-        wordB_ = static_cast<std::int16_t>(b);
-        break;
-    case bs32Bits:
-        longB_ = static_cast<std::int32_t>(b);
-        break;
-    default:
-        int64B_ = b;
-        break;
-    }
+    if (operandTop_ >= 1)
+        LoadSlotOfSize(bitSize_, operands_[static_cast<std::size_t>(operandTop_ - 1)], byteB_,
+                       wordB_, longB_, int64B_);
 }
 
 std::int64_t TQORProgCalcEngine::OperandA() const
