@@ -507,70 +507,56 @@ void TQORCalcComponent::NotifyGlyphChange()
     Q_EMIT GlyphChanged();
 }
 
-void TQORCalcComponent::LoadFromStore()
-{
-    TQORStoreCtrl* store = storeCtrl_.data();
-    if (store == nullptr || !store->OpenStorage(storeSection_)) {
-        if (store != nullptr)
-            store->CloseStorage();
-        return;
-    }
-    for (const auto& item : StoreKeys()) {
-        const QString key = QString::fromLatin1(item.Key);
-        if (item.Property == nullptr) { // the memory register
-            if (loadMemoryAtStart_)
-                ReadMemory(*store, key);
-            continue;
-        }
-        const QVariant current = property(item.Property);
-        QVariant value;
-        switch (current.typeId()) {
-        case QMetaType::Bool:
-            value = store->ReadBoolean(key, current.toBool());
-            break;
-        case QMetaType::Int:
-            value = store->ReadInteger(key, current.toInt());
-            break;
-        case QMetaType::Double:
-            value = store->ReadFloat(key, current.toDouble());
-            break;
-        default:
-            value = store->ReadString(key, current.toString());
-            break;
-        }
-        setProperty(item.Property, value);
-    }
-    store->CloseStorage();
-}
+void TQORCalcComponent::LoadFromStore() { TransferStore(false); }
 
-void TQORCalcComponent::SaveToStore()
+void TQORCalcComponent::SaveToStore() { TransferStore(true); }
+
+// Reads or writes every key of StoreKeys(); the property's type picks the typed store call.
+void TQORCalcComponent::TransferStore(bool save)
 {
     TQORStoreCtrl* store = storeCtrl_.data();
-    if (store == nullptr || !store->OpenStorage(storeSection_)) {
-        if (store != nullptr)
-            store->CloseStorage();
+    if (store == nullptr)
         return;
-    }
-    for (const auto& item : StoreKeys()) {
-        const QString key = QString::fromLatin1(item.Key);
-        if (item.Property == nullptr) {
-            WriteMemory(*store, key);
-            continue;
-        }
-        const QVariant current = property(item.Property);
-        switch (current.typeId()) {
-        case QMetaType::Bool:
-            store->WriteBoolean(key, current.toBool());
-            break;
-        case QMetaType::Int:
-            store->WriteInteger(key, current.toInt());
-            break;
-        case QMetaType::Double:
-            store->WriteFloat(key, current.toDouble());
-            break;
-        default:
-            store->WriteString(key, current.toString());
-            break;
+    if (store->OpenStorage(storeSection_)) {
+        for (const auto& item : StoreKeys()) {
+            const QString key = QString::fromLatin1(item.Key);
+            if (item.Property == nullptr) { // the memory register
+                if (save)
+                    WriteMemory(*store, key);
+                else if (loadMemoryAtStart_)
+                    ReadMemory(*store, key);
+                continue;
+            }
+            const QVariant current = property(item.Property);
+            QVariant value;
+            switch (current.typeId()) {
+            case QMetaType::Bool:
+                if (save)
+                    store->WriteBoolean(key, current.toBool());
+                else
+                    value = store->ReadBoolean(key, current.toBool());
+                break;
+            case QMetaType::Int:
+                if (save)
+                    store->WriteInteger(key, current.toInt());
+                else
+                    value = store->ReadInteger(key, current.toInt());
+                break;
+            case QMetaType::Double:
+                if (save)
+                    store->WriteFloat(key, current.toDouble());
+                else
+                    value = store->ReadFloat(key, current.toDouble());
+                break;
+            default:
+                if (save)
+                    store->WriteString(key, current.toString());
+                else
+                    value = store->ReadString(key, current.toString());
+                break;
+            }
+            if (!save)
+                setProperty(item.Property, value);
         }
     }
     store->CloseStorage();

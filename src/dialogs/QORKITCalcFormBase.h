@@ -459,6 +459,7 @@ private:
     int GetRegIniValue() const { return GetRegIni(); }
     void SetRegIniValue(int value);
     void SetGlyph(QIcon& field, const QIcon& value);
+    void TransferStore(bool save);
 
     QPointer<TQORUICtrl> uiCtrl_;
     TQOREditColorSet* colorSet_;

@@ -97,6 +97,12 @@ private:
     std::unique_ptr<TQORProgCalcEngine> engine_;
 };
 
+// The component's events: called with the form just before it is shown; called instead of
+// showing the dialog by Execute / ExecutePos.
+using TQORProgCalcFormEvent = TQORProgCalculator::TFormEvent;
+using TQORProgCalcExecuteEvent = TQORProgCalculator::TExecuteEvent;
+using TQORProgCalcExecutePosEvent = TQORProgCalculator::TExecutePosEvent;
+
 // Shows the programmer's calculator with the process-wide programmer's memory; true when the
 // user accepted, and then `Value` holds the result. `Flat` gives flat keys; a non-empty
 // `DispFont` is the display font for this dialog.

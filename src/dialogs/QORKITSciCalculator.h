@@ -68,6 +68,12 @@ private:
     bool overrideSciRange_ = false;
 };
 
+// The component's events: called with the form just before it is shown; called instead of
+// showing the dialog by Execute / ExecutePos.
+using TQORSciCalcFormEvent = TQORSciCalculator::TFormEvent;
+using TQORSciCalcExecuteEvent = TQORSciCalculator::TExecuteEvent;
+using TQORSciCalcExecutePosEvent = TQORSciCalculator::TExecutePosEvent;
+
 // Shows the scientific calculator with the saved angle mode and memory; true when the user
 // accepted, and then `Value` holds the result. An empty font keeps the saved display font.
 bool DisplaySciCalc(const std::string& Title, Extended& Value, const std::string& DispFont,
