@@ -1,6 +1,7 @@
 #include "QORKITFloatEdit.h"
 
 #include "QORKITExceptions.h"
+#include "QORKITExpressions.h"
 #include "QORKITSettings.h"
 #include "QORKITStrings.h"
 
@@ -22,7 +23,9 @@ constexpr int MaxFullAccuracyDecimals = 60;
 
 TQORExpressionEvaluator& ExpressionEvaluator()
 {
-    static TQORExpressionEvaluator evaluator;
+    // By default the library's evaluator, in radians; it raises on text it cannot evaluate.
+    static TQORExpressionEvaluator evaluator
+        = [](const std::string& expression) { return EvaluateStr(expression, false, amRadians); };
     return evaluator;
 }
 

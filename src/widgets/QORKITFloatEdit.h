@@ -13,6 +13,8 @@
 // Enter. Text that is no number, or a value outside BoundLower..BoundUpper (checked when
 // BoundLower < BoundUpper), is refused: the old value stays and OnValidationError is called.
 // FullAccuracy keeps a value with more digits than shown when the shown text was not changed.
+// With AllowExpressions any text may be typed, and text that is not a number is evaluated as
+// an expression ("2+3*4" gives 14).
 //
 // Events (std::function, see QORKITComponent.h): OnChange after the value changed, OnNull
 // when the edit becomes null, OnSignChange with the sign after each conversion of typed text
@@ -133,8 +135,8 @@ public:
     // Parses text the way leaving the edit does; throws EConvertError.
     Extended ParseText(const QString& text) const;
 
-    // Process-wide evaluator for edits with AllowExpressions (none by default: such text is
-    // then refused like any other non-number).
+    // Process-wide evaluator for edits with AllowExpressions; by default the library's
+    // expression evaluator in radians. An empty one turns expressions off everywhere.
     static void SetExpressionEvaluator(TQORExpressionEvaluator evaluator);
 
 protected:

@@ -337,3 +337,21 @@ TEST_F(FloatEditTest, KeyHandlersMaySwallowKeysAndEditOperationsWork)
 
 } // namespace
 } // namespace qorkit
+
+namespace qorkit {
+namespace {
+
+TEST_F(FloatEditTest, ExpressionsAreEvaluatedWhenAllowed)
+{
+    Type(QStringLiteral("2+3*4"));
+    EXPECT_EQ(edit_->GetValue(), 234); // operators are refused keys without expressions
+    edit_->SetAllowExpressions(true);
+    Type(QStringLiteral("2+3*4"));
+    EXPECT_EQ(edit_->GetValue(), 14);
+    Type(QStringLiteral("1/0"));
+    EXPECT_EQ(edit_->GetValue(), 14);
+    EXPECT_EQ(errors_.size(), 1);
+}
+
+} // namespace
+} // namespace qorkit
