@@ -163,6 +163,10 @@ public:
     void Place(TQORFormPosition position);
     void MoveTo(int left, int top);
 
+    // Help context of the form (0: none), from the process-wide help-context settings.
+    int GetHelpContext() const { return helpContext_; }
+    void SetHelpContext(int value) { helpContext_ = value; }
+
     // Texts of every key and the caption from the resource strings.
     virtual void UpdateLanguage();
     // The engine's last error text.
@@ -241,6 +245,7 @@ private:
     int explicitLeft_ = -1;
     int explicitTop_ = -1;
     bool placed_ = false;
+    int helpContext_ = 0;
 };
 
 // The keys every calculator has; Engine is the floating-point or the programmer's engine.

@@ -114,7 +114,7 @@ void TQORCalcForm::RedrawCalc()
     DPSpin->setGeometry(SpinCol * CalcGeometry.KeyWidth,
                         (SpinRow - rowShift) * CalcGeometry.KeyHeight, 2 * CalcGeometry.KeyWidth,
                         CalcGeometry.KeyHeight);
-    helpContext_ = hideFnBtns_ ? QORSmallCalcHelpContext : QORCalcHelpContext;
+    SetHelpContext(hideFnBtns_ ? QORSmallCalcHelpContext : QORCalcHelpContext);
 }
 
 // ---- Component -------------------------------------------------------------------------------

@@ -25,7 +25,6 @@ public:
     void SetHideFnBtns(bool value);
     // Lays the keys and panels out for the present mode and sets the help context.
     void RedrawCalc();
-    int GetHelpContext() const { return helpContext_; }
 
 protected:
     std::vector<std::span<const TQORCharKey>> CharKeys() const override;
@@ -34,7 +33,6 @@ protected:
 
 private:
     bool hideFnBtns_ = false;
-    int helpContext_ = 0;
 };
 
 class TQORCalculator

@@ -162,7 +162,7 @@ QString ToQ(const std::string& s) { return QString::fromStdString(s); }
 TQORProgCalcForm::TQORProgCalcForm(QWidget* parent)
     : TQORCalcFormBase(parent, ProgGeometry, QFont(QStringLiteral("Arial"), 8, QFont::Bold))
 {
-    helpContext_ = QORProgCalcHelpContext;
+    SetHelpContext(QORProgCalcHelpContext);
     AddKeys<TQORCalcFormBase, IQORProgCalcEngine>(QORCommonKeys<IQORProgCalcEngine>, engine_);
     AddKeys<TQORProgCalcForm, IQORProgCalcEngine>(ProgKeys, engine_);
 

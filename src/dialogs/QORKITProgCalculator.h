@@ -51,7 +51,6 @@ public:
     void EnableDigits();
     void UpdateLanguage() override;
     void DeleteKey() override { engine_.ClearDisplay(); }
-    int GetHelpContext() const { return helpContext_; }
 
 protected:
     std::vector<std::span<const TQORCharKey>> CharKeys() const override;
@@ -61,7 +60,6 @@ private:
     void LoadLists();
 
     TQORProgCalcEngine engine_;
-    int helpContext_ = 0;
 };
 
 class TQORProgCalculator : public TQORCalcComponentT<TQORProgCalculator, TQORProgCalcForm> {

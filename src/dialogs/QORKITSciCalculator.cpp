@@ -1,5 +1,7 @@
 #include "QORKITSciCalculator.h"
 
+#include "QORKITSettings.h"
+
 #include <cmath>
 
 namespace qorkit {
@@ -80,6 +82,7 @@ const TQORStoreKey SciStoreKeys[] = {
 
 TQORSciCalcForm::TQORSciCalcForm(QWidget* parent) : TQORFloatCalcForm(parent, SciGeometry)
 {
+    SetHelpContext(QORSciCalcHelpContext);
     AddKeys<TQORSciCalcForm, TQORCalcEngine>(SciKeys, GetCalcEngine());
     HypBtn->setCheckable(true);
     connect(HypBtn, &QToolButton::clicked, this, [this] { ShowToggles(); });

@@ -317,7 +317,10 @@ TEST_F(CalculatorTest, MousePressOnAKeyGivesTheFocusBackToTheKeyPanel)
 
 TEST_F(CalculatorTest, SmallCalculatorHidesThirteenKeysAndMovesPercent)
 {
+    QORCalcHelpContext = 10;
+    QORSmallCalcHelpContext = 11;
     TQORCalcForm form;
+    EXPECT_EQ(form.GetHelpContext(), QORCalcHelpContext);
     EXPECT_EQ(form.size(), QSize(190, 2 * 30 + 8 * 22 + 5));
     const char* const functionKeys[]
         = {"PiBtn",    "EBtn",      "SinBtn",    "CosBtn",    "TanBtn", "RadBtn", "InvBtn",
@@ -330,6 +333,8 @@ TEST_F(CalculatorTest, SmallCalculatorHidesThirteenKeysAndMovesPercent)
     EXPECT_EQ(form.PercentBtn->y(), form.AddBtn->y());
     EXPECT_EQ(form.size(), QSize(190, 2 * (30 + 3 * 22) + 3));
     EXPECT_EQ(form.GetHelpContext(), QORSmallCalcHelpContext);
+    form.SetStayOnTop(true);
+    EXPECT_TRUE(form.windowFlags() & Qt::WindowStaysOnTopHint);
 
     // The moved percent key still works: 50 + 10 % gives the same as on the full calculator.
     ClickAll({form.FiveBtn, form.ZeroBtn, form.AddBtn, form.OneBtn, form.ZeroBtn, form.PercentBtn,
