@@ -17,8 +17,8 @@ namespace gallery {
 
 struct Page {
     QString Title;
-    int Order = 0;                                  // pages are shown in this order
-    std::function<QWidget*(QWidget* parent)> Make;  // builds the page
+    int Order = 0; // pages are shown in this order
+    std::function<QWidget*(QWidget* parent)> Make; // builds the page
     // Extra pictures for --screenshot (dialogs shown from the page); each widget is deleted
     // after it is written.
     std::function<std::vector<std::pair<QString, QWidget*>>()> Shots;

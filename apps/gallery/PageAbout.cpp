@@ -1,10 +1,10 @@
 // The first page: what the library offers and where each part is shown.
-#include <QLabel>
-#include <QVBoxLayout>
-
 #include "GalleryPages.h"
 #include "QORKITConstants.h"
 #include "QORKITStrings.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
 
 namespace {
 

@@ -1,6 +1,8 @@
 // The qorkit gallery: every dialog and control of the library in one window.
 //   qorkit-gallery                   opens the window
 //   qorkit-gallery --screenshot DIR  renders every page (offscreen) to DIR/*.png and exits
+#include "GalleryPages.h"
+
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
@@ -8,8 +10,6 @@
 #include <QTabWidget>
 
 #include <cstdio>
-
-#include "GalleryPages.h"
 
 namespace {
 

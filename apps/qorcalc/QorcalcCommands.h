@@ -13,11 +13,12 @@
 namespace qorcalc {
 
 struct Command {
-    std::string Name;      // the word after "qorcalc"
-    std::string Usage;     // argument summary, e.g. "EXPR [--deg|--rad|--grad]"
-    std::string Summary;   // one line for the overview
+    std::string Name; // the word after "qorcalc"
+    std::string Usage; // argument summary, e.g. "EXPR [--deg|--rad|--grad]"
+    std::string Summary; // one line for the overview
     // Runs with the arguments after the command name; returns the process exit code.
-    std::function<int(const std::vector<std::string>& args, std::ostream& out, std::ostream& err)> Run;
+    std::function<int(const std::vector<std::string>& args, std::ostream& out, std::ostream& err)>
+        Run;
 };
 
 bool RegisterCommand(Command command);

@@ -1,11 +1,11 @@
 // qorcalc: the library's calculators, conversions and numeric routines from a shell.
+#include "QORKITExceptions.h"
+#include "QorcalcCommands.h"
+
 #include <exception>
 #include <iostream>
 #include <string>
 #include <vector>
-
-#include "QORKITExceptions.h"
-#include "QorcalcCommands.h"
 
 namespace {
 

@@ -12,7 +12,8 @@
 namespace qorkit {
 
 // Translates a text of a module ("context"); returns the source text when it has none.
-using TranslationHook = std::function<std::string(std::string_view context, std::string_view source)>;
+using TranslationHook
+    = std::function<std::string(std::string_view context, std::string_view source)>;
 
 // Installs the process-wide hook (an empty function restores the English texts).
 void SetTranslationHook(TranslationHook hook);
@@ -30,7 +31,7 @@ struct TResourceText {
 #define QORKIT_DECLARE_TEXT(name, text) std::string name();
 #define QORKIT_DEFINE_TEXT(name, text)                                                             \
     std::string name() { return ::qorkit::LoadResString(kTextContext, text); }
-#define QORKIT_LIST_TEXT(name, text) ::qorkit::TResourceText{#name, text},
+#define QORKIT_LIST_TEXT(name, text) ::qorkit::TResourceText {#name, text},
 
 // The base library's own messages.
 #define QORKIT_BASE_TEXTS(X)                                                                       \
@@ -51,7 +52,7 @@ struct TResourceText {
     X(rsOverflow, "Floating point overflow")                                                       \
     X(rsLogNonPositive, "Logarithm of zero or a negative number")                                  \
     X(rsOutOfDomain, "Argument out of the function's domain")                                      \
-    X(rsInvalidFloat, "'%s' is not a valid floating point value")                                 \
+    X(rsInvalidFloat, "'%s' is not a valid floating point value")                                  \
     X(rsInvalidInteger, "'%s' is not a valid integer value")                                       \
     X(rsInvalidHex, "'%s' is not a valid hexadecimal value")                                       \
     X(rsInvalidBinary, "'%s' is not a valid binary value")                                         \

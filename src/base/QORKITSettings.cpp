@@ -29,7 +29,7 @@ constexpr std::uint64_t DefaultSeed = 5489u;
 
 std::mt19937_64& RandomGenerator()
 {
-    static std::mt19937_64 generator{DefaultSeed};
+    static std::mt19937_64 generator {DefaultSeed};
     return generator;
 }
 
@@ -44,7 +44,7 @@ Extended RandomExtended()
 
 void ResetGlobalSettings()
 {
-    FormatSettings = TFormatSettings{};
+    FormatSettings = TFormatSettings {};
     QORCalcRadians = true;
     QORCalcMemory = 0;
     QORCalcDispFont.clear();

@@ -5,11 +5,11 @@
 // ResetGlobalSettings() puts every one of them back to its start-up value.
 #pragma once
 
+#include "QORKITTypes.h"
+
 #include <cstdint>
 #include <random>
 #include <string>
-
-#include "QORKITTypes.h"
 
 namespace qorkit {
 
@@ -35,9 +35,9 @@ struct TFormatSettings {
 extern TFormatSettings FormatSettings;
 
 // Calculator settings shared by the calculator dialogs between runs.
-extern bool QORCalcRadians;          // calculators start in radians (false: degrees)
-extern Extended QORCalcMemory;       // memory register of the floating-point calculators
-extern std::string QORCalcDispFont;  // display font description of the calculator display
+extern bool QORCalcRadians; // calculators start in radians (false: degrees)
+extern Extended QORCalcMemory; // memory register of the floating-point calculators
+extern std::string QORCalcDispFont; // display font description of the calculator display
 extern std::int64_t QORProgCalcMemory; // memory register of the programmer's calculator
 
 // Which store keeps the calculator settings, and where.

@@ -1,9 +1,9 @@
 #include "QORKITTypes.h"
 
-#include <cmath>
-
 #include "QORKITExceptions.h"
 #include "QORKITResource.h"
+
+#include <cmath>
 
 namespace qorkit {
 

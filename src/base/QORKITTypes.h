@@ -14,8 +14,8 @@ using Extended = long double;
 static_assert(std::numeric_limits<long double>::digits == 64,
               "qorkit needs the x87 80-bit extended long double");
 
-using TQORFloatVector = std::vector<Extended>;       // operand stack of the calculator engine
-using TQORInt64Vector = std::vector<std::int64_t>;   // operand stack of the programmer's engine
+using TQORFloatVector = std::vector<Extended>; // operand stack of the calculator engine
+using TQORInt64Vector = std::vector<std::int64_t>; // operand stack of the programmer's engine
 
 // Days since 1899-12-30; the fraction is the time of day.
 using TDateTime = double;
@@ -35,17 +35,25 @@ enum TQORRegIniType : std::uint8_t { ritNone = 0, ritRegistry = 1, ritIniFile = 
 enum TQORTimeTypes : std::uint8_t { ttUniversal = 0, ttGreenwichSidereal = 1, ttLocalSidereal = 2 };
 
 // Which glyph a calculator edit's button carries: 0, 1 or 2.
-enum TQORCalcGlyphType : std::uint8_t { cgtCalculator = 0, cgtSmallCalculator = 1, cgtEllipsis = 2 };
+enum TQORCalcGlyphType : std::uint8_t {
+    cgtCalculator = 0,
+    cgtSmallCalculator = 1,
+    cgtEllipsis = 2
+};
 
 // Which units a degrees-minutes-seconds text shows.
-enum TQORDMSType : std::uint8_t { dmsDegrees = 0, dmsDegreesMinutes = 1, dmsDegreesMinutesSeconds = 2 };
+enum TQORDMSType : std::uint8_t {
+    dmsDegrees = 0,
+    dmsDegreesMinutes = 1,
+    dmsDegreesMinutesSeconds = 2
+};
 
 // Fixed display names of the programmer's enumerations, indexed by ordinal. The translated
 // texts used by the dialogs live in the calculator text module; these are the canonical names.
 inline constexpr std::string_view QORBaseDisplayNames[] = {"Bin", "Dec", "Hex", "Oct"};
 inline constexpr std::string_view QORBitSizeNames[] = {"8 bits", "16 bits", "32 bits", "64 bits"};
-inline constexpr std::string_view QORProgSpacingNames[] = {"No Spacing", "Byte Spacing",
-                                                           "Word Spacing", "DWord Spacing"};
+inline constexpr std::string_view QORProgSpacingNames[]
+    = {"No Spacing", "Byte Spacing", "Word Spacing", "DWord Spacing"};
 inline constexpr std::string_view QORProgSizeChangeNames[] = {"Clear", "Truncate", "Extend"};
 
 // Number of bits of a word size.
@@ -57,16 +65,16 @@ struct TQORComplex {
     friend bool operator==(const TQORComplex&, const TQORComplex&) = default;
 };
 using TQORComplexVector = std::vector<TQORComplex>;
-inline constexpr TQORComplex ComplexZero{0, 0};
-inline constexpr TQORComplex ComplexUnity{1, 0};
-inline constexpr TQORComplex ComplexI{0, 1};
+inline constexpr TQORComplex ComplexZero {0, 0};
+inline constexpr TQORComplex ComplexUnity {1, 0};
+inline constexpr TQORComplex ComplexI {0, 1};
 
 struct TQORTime {
-    std::int32_t Day = 0;      // integer part of a date-time
+    std::int32_t Day = 0; // integer part of a date-time
     std::int32_t Hours = 0;
     std::int32_t Minutes = 0;
-    double Seconds = 0;        // may carry a fraction
-    double Longitude = 0;      // degrees, meaningful for local sidereal time only
+    double Seconds = 0; // may carry a fraction
+    double Longitude = 0; // degrees, meaningful for local sidereal time only
     TQORTimeTypes TimeType = ttUniversal;
     friend bool operator==(const TQORTime&, const TQORTime&) = default;
 };
@@ -81,10 +89,10 @@ struct TQORPosition {
 
 // A measure in two units, such as feet and inches.
 struct TQORImperial {
-    std::int32_t Major = 0;   // whole major units; carries the sign of the measure
-    double Minor = 0;         // minor units, non-negative after normalisation
-    std::int32_t Power = 1;   // dimension: 0 constant, 1 linear, 2 square, 3 cubic ...
-    std::int32_t Ratio = 0;   // minor units per major unit; 0 is invalid
+    std::int32_t Major = 0; // whole major units; carries the sign of the measure
+    double Minor = 0; // minor units, non-negative after normalisation
+    std::int32_t Power = 1; // dimension: 0 constant, 1 linear, 2 square, 3 cubic ...
+    std::int32_t Ratio = 0; // minor units per major unit; 0 is invalid
     std::string MajorName;
     std::string MinorName;
     std::string MajorAbbr;

@@ -1,11 +1,11 @@
+#include "QORKITResource.h"
+#include "QORKITSettings.h"
+#include "QorkitTestSupport.h"
+
 #include <gtest/gtest.h>
 
 #include <set>
 #include <string>
-
-#include "QORKITResource.h"
-#include "QORKITSettings.h"
-#include "QorkitTestSupport.h"
 
 namespace qorkit {
 namespace {
@@ -44,7 +44,8 @@ TEST_F(ResourceTextTest, BaseTableHasUniqueNamesAndNonEmptyTexts)
 
 TEST_F(ResourceTextTest, FormatMessageReplacesThePlaceholder)
 {
-    EXPECT_EQ(FormatMessage(rsInvalidFloat(), "1.2.3"), "'1.2.3' is not a valid floating point value");
+    EXPECT_EQ(FormatMessage(rsInvalidFloat(), "1.2.3"),
+              "'1.2.3' is not a valid floating point value");
     EXPECT_EQ(FormatMessage("no placeholder", "x"), "no placeholder");
 }
 

@@ -1,11 +1,11 @@
 // Test helpers shared by every test program.
 #pragma once
 
+#include "QORKITSettings.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
-
-#include "QORKITSettings.h"
 
 namespace qorkit::test {
 

@@ -1,6 +1,5 @@
 // Links against the installed Qt library target (compiles and links only).
 #include <QCoreApplication>
-
 #include <QORKITSettings.h>
 
 int main(int argc, char** argv)
