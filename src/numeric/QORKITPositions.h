@@ -31,7 +31,10 @@ Extended GetDistanceNM(const TQORPosition& From, const TQORPosition& To);
 Extended GetDistanceKm(const TQORPosition& From, const TQORPosition& To, double Radius);
 Extended GetDistanceMiles(const TQORPosition& From, const TQORPosition& To, double Radius);
 
-// The position reached from From along the initial Bearing (degrees) over Distance.
+// The position reached from From along the initial Bearing (degrees) over Distance. The
+// change of longitude uses the short-distance (dead-reckoning) form: exact along meridians and
+// the equator, close for steps of a few hundred miles, and an EInvalidOp when a long step off
+// the equator leaves that form's range (|sin(bearing) sin(distance)| > cos(start latitude)).
 TQORPosition GetPositionNM(const TQORPosition& From, Extended Distance, Extended Bearing);
 TQORPosition GetPositionKm(const TQORPosition& From, Extended Distance, Extended Bearing,
                            double Radius);
