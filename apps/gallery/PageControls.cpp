@@ -137,7 +137,7 @@ QWidget* MakeOtherControls(QWidget* parent)
     form->addRow(QStringLiteral("TQORBaseComboBox"), combo);
 
     auto* panel = new TQORBasePanel(group);
-    panel->SetCaption(QStringLiteral("1,234.56"));
+    panel->SetCaption(QString::fromStdString(qorkit::Float2CEStr(1234.56L, 2)));
     panel->SetAlignment(Qt::AlignRight | Qt::AlignVCenter);
     panel->SetColor(QColor(0xE8, 0xF0, 0xE8));
     panel->setMinimumHeight(24);

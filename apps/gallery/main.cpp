@@ -2,6 +2,7 @@
 //   qorkit-gallery                   opens the window
 //   qorkit-gallery --screenshot DIR  renders every page (offscreen) to DIR/*.png and exits
 #include "GalleryPages.h"
+#include "QORKITTranslation.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -69,7 +70,17 @@ int main(int argc, char** argv)
                                   QStringLiteral("Render every page to PNG files in DIR and exit."),
                                   QStringLiteral("DIR"));
     parser.addOption(screenshot);
+    QCommandLineOption locale(QStringLiteral("locale"),
+                              QStringLiteral("Number formats of the named locale, e.g. de_DE."),
+                              QStringLiteral("NAME"));
+    parser.addOption(locale);
     parser.process(app);
+
+    // Texts go through Qt's translators; number formats follow the chosen locale (the C
+    // locale's "." and "," unless one is named).
+    qorkit::InstallQtTranslationHook();
+    if (parser.isSet(locale))
+        qorkit::SyncFormatSettingsFromLocale(QLocale(parser.value(locale)));
 
     if (parser.isSet(screenshot))
         return Screenshots(parser.value(screenshot));
