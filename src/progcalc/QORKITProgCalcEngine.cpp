@@ -237,7 +237,8 @@ std::string EntryToHex(const std::string& text, TQORBaseDisplay base)
         hex = Oct2Hex(digits);
         break;
     case bdDecimal:
-        hex = Int2EHex(ParseDecimalEntry(digits));
+        // Just the value's own digits: a converted entry is not zero-filled to 64 bits.
+        hex = Int2EHex(ParseDecimalEntry(digits), 1);
         break;
     default:
         hex = digits;

@@ -15,6 +15,11 @@ const ProgCase kModeRows[] = {
     {"Oct64ToDec", bdOctal, bs64Bits, "0-1=[DEC]", "-1", -1},
     {"Hex16ToBin", bdHexadecimal, bs16Bits, "A5[BIN]", "0000000010100101", 0xA5},
     {"BaseChangeKeepsEntryGoing", bdDecimal, bs64Bits, "15[HEX]1", "F1", 0xF1},
+    // A decimal value becomes an entry of just its own digits: 255 is "FF", 8 is octal "10",
+    // 5 is binary "0101"; a backspace then leaves one digit fewer.
+    {"DecToHexThenBackspace", bdDecimal, bs64Bits, "255[HEX][BS]", "F", 15},
+    {"DecToOctThenBackspace", bdDecimal, bs64Bits, "8[OCT][BS]", "1", 1},
+    {"DecToBinThenBackspace", bdDecimal, bs64Bits, "5[BIN][BS]", "010", 2},
     {"BaseChangeWithPendingOperator", bdHexadecimal, bs64Bits, "5+[DEC]3=", "8", 8},
     {"PendingOperatorShowsZero", bdHexadecimal, bs64Bits, "5*[BIN]",
      "0000000000000000000000000000000000000000000000000000000000000000", 5},
