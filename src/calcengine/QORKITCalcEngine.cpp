@@ -694,6 +694,9 @@ void TQORCalcEngine::FunctionKeyPressed(std::string_view codes)
             PushOperator(function.Code);
             AddToHistory(function.Label(), false);
             ShowTop();
+            // The code carries the toggles; left set, they would change the next key too
+            // ("exp ln 5" would take e to the e to the 5).
+            ClearToggles();
         } else {
             const Extended argument = PostfixArgument();
             AddToHistory(function.Label(), false);

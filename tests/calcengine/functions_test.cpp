@@ -86,6 +86,8 @@ INSTANTIATE_TEST_SUITE_P(Functions, FunctionTable, ::testing::Values(
     FunctionCase{"PrefixWithBrackets", "sin ( 1 5 + 1 5 ) =", 0.5L, amDegrees, true},
     FunctionCase{"PrefixInverse", "inv sin . 5 =", 30.0L, amDegrees, true},
     FunctionCase{"PrefixBindsTighterThanPower", "sqrt 4 ^ 3 =", 8.0L, amRadians, true},
+    FunctionCase{"PrefixInverseOfNestedFunction", "inv ln ( ln 5 ) =", 5.0L, amRadians, true},
+    FunctionCase{"PrefixInverseThenPower", "inv ln 1 ^ 2 =", std::exp(2.0L), amRadians, true},
     FunctionCase{"Pi", "pi", Pi},
     FunctionCase{"NaturalConstant", "e", std::numbers::e_v<long double>},
     FunctionCase{"EulersConstant", "euler", std::numbers::egamma_v<long double>},
