@@ -260,12 +260,14 @@ Extended LitresPerUSGallon() { return VolUSGallons2L(1); }
 Extended UKGallonsPerLitre() { return VolL2UKGallons(1); }
 Extended USGallonsPerLitre() { return VolL2USGallons(1); }
 
-// Divides by a fuel figure that must not be zero (tested with the tolerant FloatIsZero).
-Extended Reciprocal(const Extended numerator, const Extended x, std::string (*message)())
+// numerator / (scale * x) for a fuel figure x that must not be zero. The zero test is on the
+// figure itself (tolerant FloatIsZero), before it is scaled by a gallon.
+Extended Reciprocal(const Extended numerator, const Extended scale, const Extended x,
+                    std::string (*message)())
 {
     if (FloatIsZero(x))
         throw EMathError(message());
-    return numerator / x;
+    return numerator / (scale * x);
 }
 
 } // namespace
@@ -280,44 +282,44 @@ Extended FuelKPL2KPGUK(const Extended x) { return x * LitresPerUKGallon(); }
 Extended FuelKPGUK2KPL(const Extended x) { return x * UKGallonsPerLitre(); }
 Extended FuelKPL2KPGUS(const Extended x) { return x * LitresPerUSGallon(); }
 Extended FuelKPGUS2KPL(const Extended x) { return x * USGallonsPerLitre(); }
-Extended FuelKPL2LP100K(const Extended x) { return Reciprocal(100, x, rsKPLZero); }
-Extended FuelLP100K2KPL(const Extended x) { return Reciprocal(100, x, rsLP100KZero); }
-Extended FuelKPL2LP100M(const Extended x) { return Reciprocal(KmPerMile() * 100, x, rsKPLZero); }
+Extended FuelKPL2LP100K(const Extended x) { return Reciprocal(100, 1, x, rsKPLZero); }
+Extended FuelLP100K2KPL(const Extended x) { return Reciprocal(100, 1, x, rsLP100KZero); }
+Extended FuelKPL2LP100M(const Extended x) { return Reciprocal(KmPerMile() * 100, 1, x, rsKPLZero); }
 Extended FuelLP100M2KPL(const Extended x)
 {
-    return Reciprocal(KmPerMile() * 100, x, rsDivideByZero);
+    return Reciprocal(KmPerMile() * 100, 1, x, rsDivideByZero);
 }
 Extended FuelKPL2GUKP100K(const Extended x)
 {
-    return Reciprocal(100, LitresPerUKGallon() * x, rsKPLZero);
+    return Reciprocal(100, LitresPerUKGallon(), x, rsKPLZero);
 }
 Extended FuelGUKP100K2KPL(const Extended x)
 {
-    return Reciprocal(100, LitresPerUKGallon() * x, rsDivideByZero);
+    return Reciprocal(100, LitresPerUKGallon(), x, rsDivideByZero);
 }
 Extended FuelKPL2GUSP100K(const Extended x)
 {
-    return Reciprocal(100, LitresPerUSGallon() * x, rsKPLZero);
+    return Reciprocal(100, LitresPerUSGallon(), x, rsKPLZero);
 }
 Extended FuelGUSP100K2KPL(const Extended x)
 {
-    return Reciprocal(100, LitresPerUSGallon() * x, rsDivideByZero);
+    return Reciprocal(100, LitresPerUSGallon(), x, rsDivideByZero);
 }
 Extended FuelKPL2GUKP100M(const Extended x)
 {
-    return Reciprocal(KmPerMile() * 100, LitresPerUKGallon() * x, rsKPLZero);
+    return Reciprocal(KmPerMile() * 100, LitresPerUKGallon(), x, rsKPLZero);
 }
 Extended FuelGUKP100M2KPL(const Extended x)
 {
-    return Reciprocal(KmPerMile() * 100, LitresPerUKGallon() * x, rsDivideByZero);
+    return Reciprocal(KmPerMile() * 100, LitresPerUKGallon(), x, rsDivideByZero);
 }
 Extended FuelKPL2GUSP100M(const Extended x)
 {
-    return Reciprocal(KmPerMile() * 100, LitresPerUSGallon() * x, rsKPLZero);
+    return Reciprocal(KmPerMile() * 100, LitresPerUSGallon(), x, rsKPLZero);
 }
 Extended FuelGUSP100M2KPL(const Extended x)
 {
-    return Reciprocal(KmPerMile() * 100, LitresPerUSGallon() * x, rsDivideByZero);
+    return Reciprocal(KmPerMile() * 100, LitresPerUSGallon(), x, rsDivideByZero);
 }
 
 // ---- The tables

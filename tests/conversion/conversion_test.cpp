@@ -1,5 +1,6 @@
 #include "QORKITConversion.h"
 #include "QORKITExceptions.h"
+#include "QORKITMath.h"
 #include "QORKITResource.h"
 #include "QORKIT_RS_UC.h"
 #include "QorkitTestSupport.h"
@@ -144,12 +145,15 @@ TEST(Fuel, ZeroIsRejectedOnlyByTheReciprocalRoutines)
 {
     EXPECT_EQ(FuelKPL2KPGUK(0), 0);
     EXPECT_EQ(FuelMPGUK2KPL(0), 0);
+    // Zero and a figure inside the zero tolerance whose product with a gallon is not.
     const auto expectMessage = [](long double (*routine)(long double), const std::string& text) {
-        try {
-            routine(0);
-            ADD_FAILURE() << "no exception for " << text;
-        } catch (const EMathError& e) {
-            EXPECT_EQ(e.what(), text);
+        for (const long double x : {0.0L, QORFloatTolerance / 2}) {
+            try {
+                routine(x);
+                ADD_FAILURE() << "no exception for " << x << ", " << text;
+            } catch (const EMathError& e) {
+                EXPECT_EQ(e.what(), text);
+            }
         }
     };
     for (auto* routine : {FuelKPL2LP100K, FuelKPL2LP100M, FuelKPL2GUKP100K, FuelKPL2GUSP100K,
