@@ -82,6 +82,13 @@ TEST_F(ProgEngineTest, DirectSignDigitLeavesMinusZeroEntry)
     d.Press("5"); // the entry was "-0"; only leading zeros at the very front are stripped
     EXPECT_EQ(d.Display(), "-05");
     EXPECT_EQ(d.Value(), -5);
+    d.Setup(bdDecimal, bs64Bits);
+    d.Press("12");
+    d.Engine().InputDigit('-'); // a sign goes in front of the digits typed so far
+    EXPECT_EQ(d.Display(), "-12");
+    d.Engine().InputDigit('-');
+    EXPECT_EQ(d.Display(), "12");
+    EXPECT_EQ(d.Value(), 12);
 }
 
 TEST_F(ProgEngineTest, OctalShowsBitsAboveSmallSizes)

@@ -31,6 +31,8 @@ const ProgCase kModeRows[] = {
     {"ExtendResult", bdHexadecimal, bs8Bits, "7F+1=[16]", "8000", 0x8000, "extend"},
     {"ExtendTo64", bdHexadecimal, bs32Bits, "80000000[64]", "8000000000000000",
      std::numeric_limits<std::int64_t>::min(), "extend"},
+    // -1 at 64 bits: the sign bit moves from bit 63 to bit 31 over 31 one bits.
+    {"ExtendDecimalEntryTo32", bdDecimal, bs64Bits, "-1[32]", "4294967295", 0xFFFFFFFF, "extend"},
     {"TruncateEntry", bdHexadecimal, bs16Bits, "1234[8]", "34", 0x34, "truncate"},
     {"TruncateResultKeepsValue", bdHexadecimal, bs16Bits, "1234+0=[8]", "34", 0x1234, "truncate"},
     {"SizeChangeCompletesExpression", bdHexadecimal, bs64Bits, "5+3[32]", "00000008", 8,
