@@ -187,6 +187,23 @@ TEST_F(GlobalStateTest, PlainSettersNeitherReformatNorNotify)
     EXPECT_TRUE(calc.Events().empty());
 }
 
+TEST_F(GlobalStateTest, WholeOperandsAndDeepBrackets)
+{
+    CalcKeyDriver calc;
+    auto& e = calc.Engine();
+    e.InputString("2.5");
+    e.InputValue(4);
+    EXPECT_EQ(calc.Tape(), "4.0000") << "only InputValue writes a tape line";
+    EXPECT_EQ(e.GetOperandCount(), 2);
+
+    // Thirty open brackets hold thirty pending operands: the stacks grow past their start size.
+    e.AllClear();
+    for (int i = 0; i < 30; ++i)
+        calc.Press("1 + (");
+    calc.Press("1 =");
+    EXPECT_EQ(calc.Display(), "31.0000");
+}
+
 TEST_F(GlobalStateTest, LakhGrouping)
 {
     TQORCalcEngine engine;
