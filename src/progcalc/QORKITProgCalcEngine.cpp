@@ -174,33 +174,20 @@ std::int64_t ShiftRight(std::int64_t a, int bits, int count)
     return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) >> count);
 }
 
-std::int64_t RotateLeft(std::int64_t a, int bits, int count)
+// Rotation of the word-size part of a by the base routine of that width, sign-extended.
+template<auto Rot8, auto Rot16, auto Rot32, auto Rot64>
+std::int64_t Rotate(std::int64_t a, int bits, int count)
 {
     const auto n = static_cast<unsigned>(count);
     switch (bits) {
     case 8:
-        return static_cast<std::int8_t>(ROL8(static_cast<std::uint8_t>(a), n));
+        return static_cast<std::int8_t>(Rot8(static_cast<std::uint8_t>(a), n));
     case 16:
-        return static_cast<std::int16_t>(ROL16(static_cast<std::uint16_t>(a), n));
+        return static_cast<std::int16_t>(Rot16(static_cast<std::uint16_t>(a), n));
     case 32:
-        return static_cast<std::int32_t>(ROL32(static_cast<std::uint32_t>(a), n));
+        return static_cast<std::int32_t>(Rot32(static_cast<std::uint32_t>(a), n));
     default:
-        return static_cast<std::int64_t>(ROL64(static_cast<std::uint64_t>(a), n));
-    }
-}
-
-std::int64_t RotateRight(std::int64_t a, int bits, int count)
-{
-    const auto n = static_cast<unsigned>(count);
-    switch (bits) {
-    case 8:
-        return static_cast<std::int8_t>(ROR8(static_cast<std::uint8_t>(a), n));
-    case 16:
-        return static_cast<std::int16_t>(ROR16(static_cast<std::uint16_t>(a), n));
-    case 32:
-        return static_cast<std::int32_t>(ROR32(static_cast<std::uint32_t>(a), n));
-    default:
-        return static_cast<std::int64_t>(ROR64(static_cast<std::uint64_t>(a), n));
+        return static_cast<std::int64_t>(Rot64(static_cast<std::uint64_t>(a), n));
     }
 }
 
@@ -842,8 +829,14 @@ void TQORProgCalcEngine::ShiftKey(std::int64_t (*compute)(std::int64_t, int bits
 
 void TQORProgCalcEngine::DoShl(std::int32_t count) { ShiftKey(ShiftLeft, rsSHLPaper(), count); }
 void TQORProgCalcEngine::DoShr(std::int32_t count) { ShiftKey(ShiftRight, rsSHRPaper(), count); }
-void TQORProgCalcEngine::DoRol(std::int32_t count) { ShiftKey(RotateLeft, rsROLPaper(), count); }
-void TQORProgCalcEngine::DoRor(std::int32_t count) { ShiftKey(RotateRight, rsRORPaper(), count); }
+void TQORProgCalcEngine::DoRol(std::int32_t count)
+{
+    ShiftKey(Rotate<ROL8, ROL16, ROL32, ROL64>, rsROLPaper(), count);
+}
+void TQORProgCalcEngine::DoRor(std::int32_t count)
+{
+    ShiftKey(Rotate<ROR8, ROR16, ROR32, ROR64>, rsRORPaper(), count);
+}
 
 std::int64_t TQORProgCalcEngine::ComputeAbs(std::int64_t v) noexcept
 {

