@@ -39,12 +39,9 @@ const TFrameKey FrameKeys[] = {
      &TQORCalcFormBase::PasteClick},
 };
 
-// Shortcut keys of every calculator: F10 exits, Delete clears the display, the numeric
-// pad's decimal key enters the separator (where the engine has one), the clipboard keys.
+// Shortcut keys of every calculator: Delete clears the display, then the clipboard keys and
+// Ctrl+X to exit. A form may add its own (KeyDowns).
 const TQORKeyDownDef CommonKeyDowns[] = {
-    {Qt::Key_F10, Qt::NoModifier, false, "ExitBtn", nullptr},
-    {Qt::Key_Period, Qt::NoModifier, true, nullptr, &TQORCalcFormBase::KeypadDecimal},
-    {Qt::Key_Comma, Qt::NoModifier, true, nullptr, &TQORCalcFormBase::KeypadDecimal},
     {Qt::Key_Delete, Qt::NoModifier, false, nullptr, &TQORCalcFormBase::DeleteKey},
     {Qt::Key_Insert, Qt::ControlModifier, false, "CopyBtn", nullptr},
     {Qt::Key_C, Qt::ControlModifier, false, "CopyBtn", nullptr},
@@ -194,7 +191,7 @@ void TQORCalcFormBase::InstallKeyPreview()
         child->installEventFilter(this);
 }
 
-std::span<const TQORKeyDownDef> TQORCalcFormBase::KeyDowns() const { return CommonKeyDowns; }
+std::span<const TQORKeyDownDef> TQORCalcFormBase::KeyDowns() const { return {}; }
 
 bool TQORCalcFormBase::OtherChar(char) { return false; }
 
@@ -210,16 +207,18 @@ bool TQORCalcFormBase::PreviewKey(QKeyEvent* event)
 {
     const Qt::KeyboardModifiers modifiers = event->modifiers();
     const Qt::KeyboardModifiers shifts = modifiers & ~Qt::KeypadModifier;
-    for (const auto& def : KeyDowns()) {
-        if (event->key() != def.Key || shifts != def.Modifiers)
-            continue;
-        if (def.Keypad && !(modifiers & Qt::KeypadModifier))
-            continue;
-        if (def.Button != nullptr)
-            Click(def.Button);
-        else
-            (this->*def.Action)();
-        return true;
+    for (const auto table : {std::span<const TQORKeyDownDef>(CommonKeyDowns), KeyDowns()}) {
+        for (const auto& def : table) {
+            if (event->key() != def.Key || shifts != def.Modifiers)
+                continue;
+            if (def.Keypad && !(modifiers & Qt::KeypadModifier))
+                continue;
+            if (def.Button != nullptr)
+                Click(def.Button);
+            else
+                (this->*def.Action)();
+            return true;
+        }
     }
     return false;
 }

@@ -212,6 +212,8 @@ protected:
     // The character tables of a form, searched in order after the keys every calculator
     // has (digits, backspace, enter, "=", escape, brackets and the four operators).
     virtual std::vector<std::span<const TQORCharKey>> CharKeys() const = 0;
+    // Shortcut keys of the form, searched after the ones every calculator has (Delete and the
+    // clipboard keys).
     virtual std::span<const TQORKeyDownDef> KeyDowns() const;
     // Whether a handled character stops there (otherwise it also reaches the focused control).
     virtual bool SwallowChars() const { return true; }

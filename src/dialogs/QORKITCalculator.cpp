@@ -52,6 +52,14 @@ const TQORCharKey CalcCharKeys[] = {
     {'@', "InvBtn", "PowerBtn"},
 };
 
+// Only the standard calculator exits on F10 and takes the numeric pad's decimal key straight
+// to the engine, whatever character that key types.
+const TQORKeyDownDef CalcKeyDowns[] = {
+    {Qt::Key_F10, Qt::NoModifier, false, "ExitBtn", nullptr},
+    {Qt::Key_Period, Qt::NoModifier, true, nullptr, &TQORCalcFormBase::KeypadDecimal},
+    {Qt::Key_Comma, Qt::NoModifier, true, nullptr, &TQORCalcFormBase::KeypadDecimal},
+};
+
 // Keys kept in the settings store, with the properties they hold; the memory (no property)
 // is read only when "Use Memory" is on.
 const TQORStoreKey CalcStoreKeys[] = {
@@ -85,6 +93,8 @@ std::vector<std::span<const TQORCharKey>> TQORCalcForm::CharKeys() const
 {
     return {FloatChars(), CalcCharKeys};
 }
+
+std::span<const TQORKeyDownDef> TQORCalcForm::KeyDowns() const { return CalcKeyDowns; }
 
 void TQORCalcForm::SetHideFnBtns(bool value)
 {

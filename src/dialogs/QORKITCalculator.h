@@ -28,6 +28,7 @@ public:
 
 protected:
     std::vector<std::span<const TQORCharKey>> CharKeys() const override;
+    std::span<const TQORKeyDownDef> KeyDowns() const override;
     // Characters are also passed on to the focused control.
     bool SwallowChars() const override { return false; }
 

@@ -4,6 +4,7 @@
 // the component's stored settings.
 #include "CalcDialogTest.h"
 #include "QORKITCalculator.h"
+#include "QORKITProgCalculator.h"
 #include "QORKITRegIni.h"
 #include "QORKITSciCalculator.h"
 #include "QORKITStoreCtrl.h"
@@ -281,6 +282,34 @@ TEST_F(CalculatorTest, ShortcutKeysClearCopyAndPaste)
     test::KeyClick(form.KeyPanel, Qt::Key_Period, Qt::KeypadModifier);
     TypeKeys(form, "5");
     EXPECT_EQ(form.GetCalcEngine().GetDisplayValue(), 1.5L);
+}
+
+// F10 and the numeric pad's decimal key are shortcuts of the standard calculator only; the
+// scientific one reads the pad's key as the character it types.
+TEST_F(CalculatorTest, F10AndThePadDecimalKeyBelongToTheStandardCalculator)
+{
+    TQORCalcForm calc;
+    TQORSciCalcForm sci;
+    TQORProgCalcForm prog;
+    for (TQORCalcFormBase* form : std::initializer_list<TQORCalcFormBase*> {&calc, &sci, &prog}) {
+        form->show();
+        test::KeyClick(form->KeyPanel, Qt::Key_F10);
+    }
+    EXPECT_FALSE(calc.isVisible());
+    EXPECT_EQ(calc.result(), QDialog::Accepted);
+    EXPECT_TRUE(sci.isVisible());
+    EXPECT_TRUE(prog.isVisible());
+
+    const test::CommaDecimals comma;
+    const auto padDecimal = [](TQORFloatCalcForm& form, const QString& typed) {
+        TypeKeys(form, "A1");
+        test::KeyClick(form.KeyPanel, Qt::Key_Period, Qt::KeypadModifier, typed);
+        TypeKeys(form, "5");
+        return form.GetCalcEngine().GetDisplayValue();
+    };
+    EXPECT_EQ(padDecimal(calc, QStringLiteral(".")), 1.5L);
+    EXPECT_EQ(padDecimal(sci, QStringLiteral(".")), 15);
+    EXPECT_EQ(padDecimal(sci, QStringLiteral(",")), 1.5L);
 }
 
 TEST_F(CalculatorTest, PastedTextGoesToTheEngineAndBadTextShowsError)
