@@ -342,6 +342,25 @@ TEST_F(CalculatorTest, MousePressOnAKeyGivesTheFocusBackToTheKeyPanel)
     EXPECT_EQ(form.GetCalcEngine().GetDisplayValue(), 55);
 }
 
+// A typed character clicks its key on both forms; the standard one also lets the focused
+// control have it, the scientific one swallows it.
+TEST_F(CalculatorTest, OnlyTheStandardCalculatorPassesTypedCharactersOn)
+{
+    TQORCalcForm calc;
+    TQORSciCalcForm sci;
+    for (TQORFloatCalcForm* form : std::initializer_list<TQORFloatCalcForm*> {&calc, &sci}) {
+        form->show();
+        form->activateWindow();
+        QCoreApplication::processEvents();
+        form->DPSpin->setFocus();
+        form->DPSpin->selectAll();
+        test::KeyClick(form->DPSpin, Qt::Key_7, Qt::NoModifier, QStringLiteral("7"));
+        EXPECT_EQ(form->GetCalcEngine().GetDisplayValue(), 7);
+    }
+    EXPECT_EQ(calc.DPSpin->value(), 7);
+    EXPECT_EQ(sci.DPSpin->value(), 4);
+}
+
 // ---- Layout ---------------------------------------------------------------------------------
 
 TEST_F(CalculatorTest, SmallCalculatorHidesThirteenKeysAndMovesPercent)
