@@ -9,6 +9,14 @@
 #include <cmath>
 #include <string>
 
+// Every routine defined here is declared by QORKITConversionRoutines.h, which is written from the
+// same tables; a definition missing from that list is an error whatever the build's warnings.
+#if defined(__clang__)
+#pragma clang diagnostic error "-Wmissing-prototypes"
+#elif defined(__GNUC__)
+#pragma GCC diagnostic error "-Wmissing-declarations"
+#endif
+
 namespace qorkit {
 
 namespace {
@@ -456,7 +464,7 @@ template<typename E> Extended Convert(const E from, const E to, const Extended x
 #define QORKIT_DEFINE_ROW(F, Kind, member, Tok, Via, Factor, Source)                               \
     QORKIT_DEFINE_##Kind(F, Tok, Via, member)
 #define QORKIT_DEFINE_TABLE(quantity, stem, names, table, family, array)                           \
-    table(QORKIT_DEFINE_ROW, family)
+    QORKIT_IF_ROUTINES(family)(table(QORKIT_DEFINE_ROW, family))
 #define QORKIT_DEFINE_PAIR(F, A, B, from, to)                                                      \
     Extended F##A##2##B(const Extended x) { return Convert(from, to, x); }                         \
     Extended F##B##2##A(const Extended x) { return Convert(to, from, x); }

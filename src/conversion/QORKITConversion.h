@@ -65,6 +65,15 @@ namespace qorkit {
     X(ectRadiationDose,         RadDose,               QORKIT_UC_RADDOSE_NAMES,               QORKIT_UNITS_RADDOSE,     RadDose,        QORRadDoseStr) \
     X(ectRadiationAbsorption,   RadAbsorption,         QORKIT_UC_RADABSORPTION_NAMES,         QORKIT_UNITS_RADABS,      RadAbsorption,  QORRadAbsorptionStr)
 
+// QORKIT_IF_ROUTINES(family)(tokens) keeps the tokens for a routine family and drops them for
+// None, the family of the quantities that are converted only through their tables.
+#define QORKIT_IF_ROUTINES(family) QORKIT_IF_ROUTINES_PICK(QORKIT_IF_ROUTINES_PROBE_##family)
+#define QORKIT_IF_ROUTINES_PROBE_None ~, QORKIT_IF_ROUTINES_DROP
+#define QORKIT_IF_ROUTINES_PICK(...) QORKIT_IF_ROUTINES_SECOND(__VA_ARGS__, QORKIT_IF_ROUTINES_KEEP, ~)
+#define QORKIT_IF_ROUTINES_SECOND(probe, pick, ...) pick
+#define QORKIT_IF_ROUTINES_KEEP(...) __VA_ARGS__
+#define QORKIT_IF_ROUTINES_DROP(...)
+
 // The routine families with routines between two units that are not a unit and its Via.
 #define QORKIT_PAIR_LIST(X) \
     X(QORKIT_PAIRS_DIST, Dist) \
@@ -194,37 +203,18 @@ template<typename E> Extended ConvertUnit(E from, E to, Extended value)
 
 // ---- The conversion routines --------------------------------------------------------------------
 
-#define QORKIT_DECLARE_PAIR_ROUTINES(F, A, B)                                                      \
-    Extended F##A##2##B(Extended x);                                                               \
-    Extended F##B##2##A(Extended x);
-#define QORKIT_DECLARE_PAIR_ROUTINES_D(F, A, B)                                                    \
-    Extended F##A##_2##B(Extended x);                                                              \
-    Extended F##B##2##A(Extended x);
-#define QORKIT_DECLARE_Base(F, Tok, Via)
-#define QORKIT_DECLARE_Same(F, Tok, Via)
-#define QORKIT_DECLARE_Slope(F, Tok, Via)
-#define QORKIT_DECLARE_Lin(F, Tok, Via) QORKIT_DECLARE_PAIR_ROUTINES(F, Tok, Via)
-#define QORKIT_DECLARE_Div(F, Tok, Via) QORKIT_DECLARE_PAIR_ROUTINES(F, Tok, Via)
-#define QORKIT_DECLARE_Fn(F, Tok, Via) QORKIT_DECLARE_PAIR_ROUTINES(F, Tok, Via)
-#define QORKIT_DECLARE_SrcKg(F, Tok, Via) QORKIT_DECLARE_PAIR_ROUTINES(F, Tok, Via)
-#define QORKIT_DECLARE_LinD(F, Tok, Via) QORKIT_DECLARE_PAIR_ROUTINES_D(F, Tok, Via)
-#define QORKIT_DECLARE_DivD(F, Tok, Via) QORKIT_DECLARE_PAIR_ROUTINES_D(F, Tok, Via)
-#define QORKIT_DECLARE_ROW(F, Kind, member, Tok, Via, Factor, Source)                              \
-    QORKIT_DECLARE_##Kind(F, Tok, Via)
-#define QORKIT_DECLARE_TABLE(quantity, stem, names, table, family, array)                          \
-    table(QORKIT_DECLARE_ROW, family)
-#define QORKIT_DECLARE_PAIR(F, A, B, from, to) QORKIT_DECLARE_PAIR_ROUTINES(F, A, B)
-#define QORKIT_DECLARE_PAIRS(list, family) list(QORKIT_DECLARE_PAIR, family)
-
-QORKIT_QUANTITY_LIST(QORKIT_DECLARE_TABLE)
-QORKIT_PAIR_LIST(QORKIT_DECLARE_PAIRS)
-
-// Temperatures between two scales that are not Celsius.
-Extended TempF2K(Extended x);
-Extended TempK2F(Extended x);
-Extended TempF2R(Extended x);
-Extended TempR2F(Extended x);
-Extended TempK2R(Extended x);
-Extended TempR2K(Extended x);
+// The temperature routines between two scales that are not Celsius. They are written by hand and
+// convert directly, not through Celsius: X(Family, A, B) names Family<A>2<B> and Family<B>2<A>.
+// clang-format off
+#define QORKIT_TEMP_DIRECT_PAIRS(X) \
+    X(Temp, F, K) \
+    X(Temp, F, R) \
+    X(Temp, K, R)
+// clang-format on
 
 } // namespace qorkit
+
+// One routine for each direction between a unit and the unit it is defined through
+// (DistInches2M, DistM2Inches), for each named pair of the tables, and the direct temperature
+// routines. The list is written from the tables above by tools/qorkit_conversion_decls.
+#include "QORKITConversionRoutines.h"

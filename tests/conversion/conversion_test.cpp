@@ -264,14 +264,14 @@ std::vector<TRoutinePair> AllPairs()
 #define ROW_LinD(F, Tok, Via) PAIR_D(F, Tok, Via)
 #define ROW_DivD(F, Tok, Via) PAIR_D(F, Tok, Via)
 #define ROW(F, Kind, member, Tok, Via, Factor, Source) ROW_##Kind(F, Tok, Via)
-#define TABLE(quantity, stem, names, table, family, array) table(ROW, family)
+#define TABLE(quantity, stem, names, table, family, array)                                         \
+    QORKIT_IF_ROUTINES(family)(table(ROW, family))
 #define EXTRA(F, A, B, from, to) PAIR(F, A, B, false)
 #define EXTRAS(list, family) list(EXTRA, family)
+#define PAIR_DIRECT(F, A, B) PAIR(F, A, B, false)
     QORKIT_QUANTITY_LIST(TABLE)
     QORKIT_PAIR_LIST(EXTRAS)
-    pairs.push_back({"TempF2K", TempF2K, TempK2F, false});
-    pairs.push_back({"TempF2R", TempF2R, TempR2F, false});
-    pairs.push_back({"TempK2R", TempK2R, TempR2K, false});
+    QORKIT_TEMP_DIRECT_PAIRS(PAIR_DIRECT)
     return pairs;
 }
 
