@@ -9,7 +9,6 @@
 #include <cctype>
 #include <functional>
 #include <iomanip>
-#include <map>
 #include <ostream>
 #include <sstream>
 #include <string>
@@ -20,55 +19,22 @@ namespace {
 using qorkit::IQORProgCalcEngine;
 using Key = std::function<void(IQORProgCalcEngine&)>;
 
-// Named keys; a count after a colon sets the shift or rotate distance (SHL:4).
-const std::map<std::string, Key, std::less<>>& NamedKeys()
+// A named key of the engine's table, or null.
+const qorkit::TQORProgKey* NamedKey(std::string_view name)
 {
-    static const std::map<std::string, Key, std::less<>> keys {
-        {"+", [](IQORProgCalcEngine& e) { e.DoAdd(); }},
-        {"-", [](IQORProgCalcEngine& e) { e.DoSubtract(); }},
-        {"*", [](IQORProgCalcEngine& e) { e.DoMultiply(); }},
-        {"/", [](IQORProgCalcEngine& e) { e.DoDivide(); }},
-        {"MOD", [](IQORProgCalcEngine& e) { e.DoMod(); }},
-        {"AND", [](IQORProgCalcEngine& e) { e.DoAnd(); }},
-        {"OR", [](IQORProgCalcEngine& e) { e.DoOr(); }},
-        {"XOR", [](IQORProgCalcEngine& e) { e.DoXor(); }},
-        {"NAND", [](IQORProgCalcEngine& e) { e.DoNand(); }},
-        {"NOR", [](IQORProgCalcEngine& e) { e.DoNor(); }},
-        {"XNOR", [](IQORProgCalcEngine& e) { e.DoXnor(); }},
-        {"NOT", [](IQORProgCalcEngine& e) { e.DoNot(); }},
-        {"NEG", [](IQORProgCalcEngine& e) { e.DoNeg(); }},
-        {"(", [](IQORProgCalcEngine& e) { e.InputLeftBracket(); }},
-        {")", [](IQORProgCalcEngine& e) { e.InputRightBracket(); }},
-        {"=", [](IQORProgCalcEngine& e) { e.DoEquals(); }},
-        {"MC", [](IQORProgCalcEngine& e) { e.MemoryClear(); }},
-        {"M+", [](IQORProgCalcEngine& e) { e.MemoryAdd(); }},
-        {"M-", [](IQORProgCalcEngine& e) { e.MemorySubtract(); }},
-        {"MR", [](IQORProgCalcEngine& e) { e.MemoryRecall(); }},
-        {"AC", [](IQORProgCalcEngine& e) { e.AllClear(); }},
-        {"CL", [](IQORProgCalcEngine& e) { e.ClearDisplay(); }},
-        {"BS", [](IQORProgCalcEngine& e) { e.InputBackspace(); }},
-        {"BIN", [](IQORProgCalcEngine& e) { e.SetBaseDisplay(qorkit::bdBinary); }},
-        {"DEC", [](IQORProgCalcEngine& e) { e.SetBaseDisplay(qorkit::bdDecimal); }},
-        {"HEX", [](IQORProgCalcEngine& e) { e.SetBaseDisplay(qorkit::bdHexadecimal); }},
-        {"OCT", [](IQORProgCalcEngine& e) { e.SetBaseDisplay(qorkit::bdOctal); }},
-        {"BITS8", [](IQORProgCalcEngine& e) { e.SetBitSize(qorkit::bs8Bits); }},
-        {"BITS16", [](IQORProgCalcEngine& e) { e.SetBitSize(qorkit::bs16Bits); }},
-        {"BITS32", [](IQORProgCalcEngine& e) { e.SetBitSize(qorkit::bs32Bits); }},
-        {"BITS64", [](IQORProgCalcEngine& e) { e.SetBitSize(qorkit::bs64Bits); }},
-    };
-    return keys;
+    for (const auto& key : qorkit::ProgEngineKeys())
+        if (key.Name == name)
+            return &key;
+    return nullptr;
 }
 
-using CountedKey = void (IQORProgCalcEngine::*)(std::int32_t);
-const std::map<std::string, CountedKey, std::less<>>& CountedKeys()
+// A key that takes a count (SHL:4), or null.
+const qorkit::TQORProgCountedKey* CountedKey(std::string_view name)
 {
-    static const std::map<std::string, CountedKey, std::less<>> keys {
-        {"SHL", &IQORProgCalcEngine::DoShl},
-        {"SHR", &IQORProgCalcEngine::DoShr},
-        {"ROL", &IQORProgCalcEngine::DoRol},
-        {"ROR", &IQORProgCalcEngine::DoRor},
-    };
-    return keys;
+    for (const auto& key : qorkit::ProgEngineCountedKeys())
+        if (key.Name == name)
+            return &key;
+    return nullptr;
 }
 
 std::string Upper(std::string s)
@@ -100,12 +66,12 @@ bool ParseKeys(const std::string& text, std::vector<PressedKey>& keys, std::stri
     std::string word;
     while (words >> word) {
         const std::string upper = Upper(word);
-        if (auto it = NamedKeys().find(upper); it != NamedKeys().end()) {
-            keys.push_back({upper, it->second});
+        if (const auto* named = NamedKey(upper)) {
+            keys.push_back({upper, named->Press});
             continue;
         }
         const std::size_t colon = upper.find(':');
-        if (auto it = CountedKeys().find(upper.substr(0, colon)); it != CountedKeys().end()) {
+        if (const auto* counted = CountedKey(std::string_view(upper).substr(0, colon))) {
             int count = 1;
             if (colon != std::string::npos) {
                 try {
@@ -115,14 +81,14 @@ bool ParseKeys(const std::string& text, std::vector<PressedKey>& keys, std::stri
                     return false;
                 }
             }
-            const CountedKey member = it->second;
+            const auto member = counted->Press;
             keys.push_back({upper, [member, count](IQORProgCalcEngine& e) { (e.*member)(count); }});
             continue;
         }
         for (char ch : upper) {
             const std::string single(1, ch);
-            if (auto op = NamedKeys().find(single); op != NamedKeys().end())
-                keys.push_back({single, op->second});
+            if (const auto* op = NamedKey(single))
+                keys.push_back({single, op->Press});
             else if (std::isxdigit(static_cast<unsigned char>(ch)))
                 keys.push_back({single, [ch](IQORProgCalcEngine& e) { e.InputDigit(ch); }});
             else {

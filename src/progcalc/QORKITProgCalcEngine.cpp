@@ -1081,4 +1081,55 @@ std::int32_t TQORProgCalcEngine::GetHistoryLength() const
     return static_cast<std::int32_t>(history_.size());
 }
 
+// ---- Named keys ------------------------------------------------------------------------------
+
+namespace {
+
+constexpr TQORProgKey kProgKeys[] = {
+    {"+", [](IQORProgCalcEngine& e) { e.DoAdd(); }},
+    {"-", [](IQORProgCalcEngine& e) { e.DoSubtract(); }},
+    {"*", [](IQORProgCalcEngine& e) { e.DoMultiply(); }},
+    {"/", [](IQORProgCalcEngine& e) { e.DoDivide(); }},
+    {"MOD", [](IQORProgCalcEngine& e) { e.DoMod(); }},
+    {"AND", [](IQORProgCalcEngine& e) { e.DoAnd(); }},
+    {"OR", [](IQORProgCalcEngine& e) { e.DoOr(); }},
+    {"XOR", [](IQORProgCalcEngine& e) { e.DoXor(); }},
+    {"NAND", [](IQORProgCalcEngine& e) { e.DoNand(); }},
+    {"NOR", [](IQORProgCalcEngine& e) { e.DoNor(); }},
+    {"XNOR", [](IQORProgCalcEngine& e) { e.DoXnor(); }},
+    {"NOT", [](IQORProgCalcEngine& e) { e.DoNot(); }},
+    {"NEG", [](IQORProgCalcEngine& e) { e.DoNeg(); }},
+    {"(", [](IQORProgCalcEngine& e) { e.InputLeftBracket(); }},
+    {")", [](IQORProgCalcEngine& e) { e.InputRightBracket(); }},
+    {"=", [](IQORProgCalcEngine& e) { e.DoEquals(); }},
+    {"MC", [](IQORProgCalcEngine& e) { e.MemoryClear(); }},
+    {"M+", [](IQORProgCalcEngine& e) { e.MemoryAdd(); }},
+    {"M-", [](IQORProgCalcEngine& e) { e.MemorySubtract(); }},
+    {"MR", [](IQORProgCalcEngine& e) { e.MemoryRecall(); }},
+    {"AC", [](IQORProgCalcEngine& e) { e.AllClear(); }},
+    {"CL", [](IQORProgCalcEngine& e) { e.ClearDisplay(); }},
+    {"BS", [](IQORProgCalcEngine& e) { e.InputBackspace(); }},
+    {"BIN", [](IQORProgCalcEngine& e) { e.SetBaseDisplay(bdBinary); }},
+    {"DEC", [](IQORProgCalcEngine& e) { e.SetBaseDisplay(bdDecimal); }},
+    {"HEX", [](IQORProgCalcEngine& e) { e.SetBaseDisplay(bdHexadecimal); }},
+    {"OCT", [](IQORProgCalcEngine& e) { e.SetBaseDisplay(bdOctal); }},
+    {"BITS8", [](IQORProgCalcEngine& e) { e.SetBitSize(bs8Bits); }},
+    {"BITS16", [](IQORProgCalcEngine& e) { e.SetBitSize(bs16Bits); }},
+    {"BITS32", [](IQORProgCalcEngine& e) { e.SetBitSize(bs32Bits); }},
+    {"BITS64", [](IQORProgCalcEngine& e) { e.SetBitSize(bs64Bits); }},
+};
+
+constexpr TQORProgCountedKey kProgCountedKeys[] = {
+    {"SHL", &IQORProgCalcEngine::DoShl},
+    {"SHR", &IQORProgCalcEngine::DoShr},
+    {"ROL", &IQORProgCalcEngine::DoRol},
+    {"ROR", &IQORProgCalcEngine::DoRor},
+};
+
+} // namespace
+
+std::span<const TQORProgKey> ProgEngineKeys() { return kProgKeys; }
+
+std::span<const TQORProgCountedKey> ProgEngineCountedKeys() { return kProgCountedKeys; }
+
 } // namespace qorkit

@@ -15,7 +15,9 @@
 
 #include <cstdint>
 #include <functional>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace qorkit {
@@ -347,5 +349,20 @@ private:
     TQORProgCalcNotifyEvent onSpacingChange_;
     TQORProgCalcNotifyEvent onSizeChangeChange_;
 };
+
+// Named keys of the programmer's calculator, for key scripts (the command-line tool, tests,
+// fuzzing): operators, brackets, memory, clears, bases and word sizes.
+struct TQORProgKey {
+    std::string_view Name; // upper case: "XOR", "M+", "HEX", "BITS16" ...
+    void (*Press)(IQORProgCalcEngine& engine);
+};
+std::span<const TQORProgKey> ProgEngineKeys();
+
+// The keys that take a bit count: SHL, SHR, ROL, ROR.
+struct TQORProgCountedKey {
+    std::string_view Name;
+    void (IQORProgCalcEngine::*Press)(std::int32_t count);
+};
+std::span<const TQORProgCountedKey> ProgEngineCountedKeys();
 
 } // namespace qorkit

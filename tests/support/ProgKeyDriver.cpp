@@ -1,5 +1,6 @@
 #include "ProgKeyDriver.h"
 
+#include <algorithm>
 #include <cctype>
 #include <functional>
 #include <stdexcept>
@@ -34,41 +35,6 @@ const std::map<char, Action>& CharKeys()
         {'(', [](IQORProgCalcEngine& e) { e.InputLeftBracket(); }},
         {')', [](IQORProgCalcEngine& e) { e.InputRightBracket(); }},
         {'=', [](IQORProgCalcEngine& e) { e.DoEquals(); }},
-    };
-    return keys;
-}
-
-const std::map<std::string, Action, std::less<>>& WordKeys()
-{
-    static const std::map<std::string, Action, std::less<>> keys {
-        {"MC", [](IQORProgCalcEngine& e) { e.MemoryClear(); }},
-        {"M+", [](IQORProgCalcEngine& e) { e.MemoryAdd(); }},
-        {"M-", [](IQORProgCalcEngine& e) { e.MemorySubtract(); }},
-        {"MR", [](IQORProgCalcEngine& e) { e.MemoryRecall(); }},
-        {"AC", [](IQORProgCalcEngine& e) { e.AllClear(); }},
-        {"CL", [](IQORProgCalcEngine& e) { e.ClearDisplay(); }},
-        {"BS", [](IQORProgCalcEngine& e) { e.InputBackspace(); }},
-        {"BIN", [](IQORProgCalcEngine& e) { e.SetBaseDisplay(bdBinary); }},
-        {"DEC", [](IQORProgCalcEngine& e) { e.SetBaseDisplay(bdDecimal); }},
-        {"HEX", [](IQORProgCalcEngine& e) { e.SetBaseDisplay(bdHexadecimal); }},
-        {"OCT", [](IQORProgCalcEngine& e) { e.SetBaseDisplay(bdOctal); }},
-        {"8", [](IQORProgCalcEngine& e) { e.SetBitSize(bs8Bits); }},
-        {"16", [](IQORProgCalcEngine& e) { e.SetBitSize(bs16Bits); }},
-        {"32", [](IQORProgCalcEngine& e) { e.SetBitSize(bs32Bits); }},
-        {"64", [](IQORProgCalcEngine& e) { e.SetBitSize(bs64Bits); }},
-    };
-    return keys;
-}
-
-using CountedKey = void (IQORProgCalcEngine::*)(std::int32_t);
-
-const std::map<std::string, CountedKey, std::less<>>& CountedKeys()
-{
-    static const std::map<std::string, CountedKey, std::less<>> keys {
-        {"SHL", &IQORProgCalcEngine::DoShl},
-        {"SHR", &IQORProgCalcEngine::DoShr},
-        {"ROL", &IQORProgCalcEngine::DoRol},
-        {"ROR", &IQORProgCalcEngine::DoRor},
     };
     return keys;
 }
@@ -127,17 +93,27 @@ ProgKeyDriver& ProgKeyDriver::Press(std::string_view keys)
     return *this;
 }
 
+// A bracketed word is a key of the engine's table ("[MC]", "[HEX]"), a word size ("[16]"), or a
+// counted key with its count ("[SHL 4]").
 void ProgKeyDriver::PressWord(const std::string& word)
 {
-    if (auto it = WordKeys().find(word); it != WordKeys().end()) {
-        it->second(*engine_);
-        return;
+    const bool size = !word.empty() && std::all_of(word.begin(), word.end(), [](char c) {
+        return std::isdigit(static_cast<unsigned char>(c)) != 0;
+    });
+    const std::string name = size ? "BITS" + word : word;
+    for (const auto& key : ProgEngineKeys()) {
+        if (key.Name == name) {
+            key.Press(*engine_);
+            return;
+        }
     }
     const std::size_t blank = word.find(' ');
     if (blank != std::string::npos) {
-        if (auto it = CountedKeys().find(word.substr(0, blank)); it != CountedKeys().end()) {
-            ((*engine_).*(it->second))(std::stoi(word.substr(blank + 1)));
-            return;
+        for (const auto& key : ProgEngineCountedKeys()) {
+            if (key.Name == std::string_view(word).substr(0, blank)) {
+                ((*engine_).*(key.Press))(std::stoi(word.substr(blank + 1)));
+                return;
+            }
         }
     }
     throw std::invalid_argument("unknown key [" + word + "]");
