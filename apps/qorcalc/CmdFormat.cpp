@@ -14,7 +14,7 @@ using qorkit::Extended;
 // The full 64-bit patterns of an integer, as the programmer's calculator shows them.
 int RunHex(const std::string& text, std::ostream& out)
 {
-    const std::string hex = qorkit::Int2EHex(qorkit::Str2Int64(text));
+    const std::string hex = qorkit::Int2EHex(qorkit::Str2Int64(text), 16);
     struct Row {
         const char* label;
         std::string digits;

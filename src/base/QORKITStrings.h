@@ -62,8 +62,9 @@ std::string Float2Str(Extended value, int width, int decimals);
 
 std::string Int2EStr(std::int64_t value); // signed decimal
 // Hexadecimal digits, upper case, at least `digits` long (zero-padded); negative values in
-// 64-bit two's complement, so Int2EHex(-1) == "FFFFFFFFFFFFFFFF".
-std::string Int2EHex(std::int64_t value, int digits = 16);
+// 64-bit two's complement: Int2EHex(255) == "FF", Int2EHex(255, 4) == "00FF",
+// Int2EHex(-1) == "FFFFFFFFFFFFFFFF".
+std::string Int2EHex(std::int64_t value, int digits = 1);
 // Signed decimal text to integer; blanks around are allowed. Raises EConvertError when
 // malformed (rsInvalidInteger; this includes "", a lone sign and any stray character) or out
 // of range (rsIntegerOverflow).

@@ -225,7 +225,7 @@ std::string EntryToHex(const std::string& text, TQORBaseDisplay base)
         break;
     case bdDecimal:
         // Just the value's own digits: a converted entry is not zero-filled to 64 bits.
-        hex = Int2EHex(ParseDecimalEntry(digits), 1);
+        hex = Int2EHex(ParseDecimalEntry(digits));
         break;
     default:
         hex = digits;
@@ -417,7 +417,7 @@ std::string TQORProgCalcEngine::DisplayValueIn(TQORBaseDisplay textBase)
     if (!entry_.empty()) {
         s = textBase == bdHexadecimal ? hexText_ : octText_;
     } else if (operandTop_ >= 0) {
-        const std::string hex = Int2EHex(operands_[static_cast<std::size_t>(operandTop_)], 1);
+        const std::string hex = Int2EHex(operands_[static_cast<std::size_t>(operandTop_)]);
         s = textBase == bdHexadecimal ? hex : textBase == bdOctal ? Hex2Oct(hex) : Hex2Bin(hex);
     }
     return GroupedFor(textBase, s);

@@ -328,7 +328,7 @@ TEST_F(GlobalStateTest, FullWidthPatternsOfSignedValues)
            std::numeric_limits<std::int64_t>::max()};
     for (const auto v : values) {
         SCOPED_TRACE(v);
-        const auto hex = Int2EHex(v);
+        const auto hex = Int2EHex(v, 16);
         EXPECT_EQ(hex, Pattern(v, 16, 16));
         EXPECT_EQ(Hex2Int64(hex), v);
         EXPECT_EQ(Hex2Oct(hex), Pattern(v, 8, 22));
@@ -363,6 +363,7 @@ TEST_F(GlobalStateTest, DigitStringsKeepEveryDigit)
 
 TEST_F(GlobalStateTest, IntegerTextLimits)
 {
+    EXPECT_EQ(Int2EHex(255), "FF");
     EXPECT_EQ(Int2EHex(255, 4), "00FF");
     EXPECT_EQ(Int2EHex(0, 0), "0");
     EXPECT_EQ(Int2EHex(-2, 4), "FFFFFFFFFFFFFFFE") << "never cut below the full pattern";
