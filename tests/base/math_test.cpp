@@ -1,6 +1,7 @@
 #include "QORKITExceptions.h"
 #include "QORKITMath.h"
 #include "QORKITResource.h"
+#include "QorkitTestSupport.h"
 
 #include <gtest/gtest.h>
 
@@ -32,8 +33,6 @@ constexpr Extended kHalfRoot3 = 0.866025403784438646763723170752936183L;
     text << std::setprecision(21) << actual << " is not within " << tolerance << " of " << expected;
     return ::testing::AssertionFailure() << text.str();
 }
-
-const auto kRowName = [](const auto& row) { return std::string(row.param.Name); };
 
 TEST(MathTolerance, ZeroSignAndSameness)
 {
@@ -73,7 +72,7 @@ INSTANTIATE_TEST_SUITE_P(Signs, MathDivision,
                                            DivisionRow {"BothNegative", -7, -3, -1, -1, 2, 2},
                                            DivisionRow {"Fraction", -7.5L, 2, 0.5L, -1.5L, -4, -3},
                                            DivisionRow {"ExactNegative", -6, 3, 0, 0, -2, -2}),
-                         kRowName);
+                         test::RowName<DivisionRow>);
 
 TEST(MathDivision, ZeroDivisorAndTheTopOfTheRange)
 {
@@ -203,7 +202,7 @@ INSTANTIATE_TEST_SUITE_P(
         RoundRow {"FarBelow", 0.0004L, 2, 0}, RoundRow {"NegativeToZero", -0.4L, 0, 0},
         RoundRow {"NothingToRound", 123.456L, 10, 123.456L},
         RoundRow {"AllPlacesAway", 1.25L, std::numeric_limits<std::int32_t>::min(), 0}),
-    kRowName);
+    test::RowName<RoundRow>);
 
 TEST(MathRoundDP, OverflowWhenRoundingUpPastTheRange)
 {
@@ -239,7 +238,7 @@ INSTANTIATE_TEST_SUITE_P(Angles, MathDegrees,
                                            DegreeRow {"OneEighty", 180, 0, -1},
                                            DegreeRow {"MinusNinety", -90, -1, 0},
                                            DegreeRow {"ManyTurns", 3600000090.0L, 1, 0}),
-                         kRowName);
+                         test::RowName<DegreeRow>);
 
 TEST(MathDegrees, GeneralAnglesTangentAndInverses)
 {

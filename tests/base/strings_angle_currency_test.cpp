@@ -26,7 +26,7 @@ constexpr Extended k5d5m3s = 5.0L + 5.0L / 60 + 3.0L / 3600;
 // ---- Degrees to text -----------------------------------------------------------------------
 
 struct DmsRow {
-    const char* name;
+    const char* Name;
     Extended degrees;
     TQORDMSType type;
     std::uint8_t decimals;
@@ -80,7 +80,7 @@ TEST_F(GlobalStateTest, Angle2StrShowsTwoDigitMinutesAndSeconds)
 // ---- Text to degrees -----------------------------------------------------------------------
 
 struct DmsParseRow {
-    const char* name;
+    const char* Name;
     const char* text;
     Extended degrees;
 };
@@ -172,7 +172,7 @@ TEST_F(GlobalStateTest, AngleMarksComeFromTheSettings)
 // ---- Currency ------------------------------------------------------------------------------
 
 struct CurrencyRow {
-    const char* name;
+    const char* Name;
     std::int64_t scaled; // amount x 10000
     std::uint8_t decimals;
     std::uint8_t positiveFormat, negativeFormat;

@@ -30,7 +30,7 @@ using test::SwapMarks;
 // ---- Fixed notation ------------------------------------------------------------------------
 
 struct FixedRow {
-    const char* name;
+    const char* Name;
     Extended value;
     std::uint8_t decimals;
     bool lakh;
@@ -94,7 +94,7 @@ INSTANTIATE_TEST_SUITE_P(Strings, FixedFormat, testing::ValuesIn(kFixedRows), Ro
 // ---- Scientific notation -------------------------------------------------------------------
 
 struct SciRow {
-    const char* name;
+    const char* Name;
     Extended value;
     std::uint8_t decimals;
     const char* expected;
@@ -178,7 +178,7 @@ TEST_F(GlobalStateTest, ShortBinaryFractionsAreExact)
 // ---- Parsing -------------------------------------------------------------------------------
 
 struct ParseRow {
-    const char* name;
+    const char* Name;
     const char* text; // in "." decimals; the "," run exchanges the marks
     Extended value;
 };
@@ -272,7 +272,7 @@ TEST_F(GlobalStateTest, FormattedTextReadsBack)
 // ---- Grouping typed text -------------------------------------------------------------------
 
 struct GroupRow {
-    const char* name;
+    const char* Name;
     const char* text;
     bool lakh;
     const char* expected;

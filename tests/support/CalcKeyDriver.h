@@ -2,6 +2,7 @@
 #pragma once
 
 #include "QORKITCalcEngine.h"
+#include "QorkitTestSupport.h"
 
 #include <gtest/gtest.h>
 
@@ -15,12 +16,6 @@ namespace qorkit::test {
 // (EXPECT_NEAR works in double).
 ::testing::AssertionResult NearExtended(long double actual, long double expected,
                                         long double tolerance = 4e-18L);
-
-// Test names of a parameter table from the rows' Name fields.
-template<class Row> std::string RowName(const ::testing::TestParamInfo<Row>& info)
-{
-    return info.param.Name;
-}
 
 // An engine with every event assigned to a recorder. Keys are the engine's key names
 // separated by blanks ("12.5 + sin ="), or, with PressChars, one key per character ("2+3*4=").

@@ -30,6 +30,13 @@ private:
     TFormatSettings saved_;
 };
 
+// Test names of a TEST_P table, taken from the rows' Name fields, so a failure reads as the
+// row's name.
+template<class Row> std::string RowName(const ::testing::TestParamInfo<Row>& info)
+{
+    return std::string(info.param.Name);
+}
+
 // Resets every process-wide variable of the library.
 void ResetAllGlobals();
 

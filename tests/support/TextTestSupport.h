@@ -1,8 +1,6 @@
 // Helpers for table-driven tests of number texts.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <string>
 
 namespace qorkit::test {
@@ -14,12 +12,6 @@ inline std::string SwapMarks(std::string s)
     for (char& c : s)
         c = c == '.' ? ',' : c == ',' ? '.' : c;
     return s;
-}
-
-// Names the rows of a TEST_P table after their `name` member.
-template<class Row> std::string RowName(const testing::TestParamInfo<Row>& info)
-{
-    return info.param.name;
 }
 
 } // namespace qorkit::test
