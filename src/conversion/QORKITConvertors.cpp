@@ -88,19 +88,20 @@ void TQORBaseConvertor::SetValueIn(Extended value)
 
 void TQORBaseConvertor::SetUnitsIn(int unit)
 {
-    if (!IsUnit(unit) || unit == unitsIn_)
-        return;
-    unitsIn_ = unit;
-    UnitsInChanged();
-    DoConversion();
+    ChangeUnit(unitsIn_, unit, &TQORBaseConvertor::UnitsInChanged);
 }
 
 void TQORBaseConvertor::SetUnitsOut(int unit)
 {
-    if (!IsUnit(unit) || unit == unitsOut_)
+    ChangeUnit(unitsOut_, unit, &TQORBaseConvertor::UnitsOutChanged);
+}
+
+void TQORBaseConvertor::ChangeUnit(int& current, int unit, void (TQORBaseConvertor::*changed)())
+{
+    if (!IsUnit(unit) || unit == current)
         return;
-    unitsOut_ = unit;
-    UnitsOutChanged();
+    current = unit;
+    (this->*changed)(); // the unit holds its new value even when the conversion raises
     DoConversion();
 }
 

@@ -159,6 +159,7 @@ private:
     double GetValueOutDouble() const { return static_cast<double>(valueOut_); }
     void SetValueOutDouble(double) { }
     bool IsUnit(int unit) const { return unit >= 0 && unit < GetNoUnits(); }
+    void ChangeUnit(int& current, int unit, void (TQORBaseConvertor::*changed)());
     void SetHidden(int unit, bool hidden);
     void HiddenFlagsChanged(int oldCount);
     bool StoreUsable() const;
