@@ -52,7 +52,7 @@ public:
 
         quantities_ = new QListWidget(this);
         quantities_->setObjectName(QStringLiteral("Quantities"));
-        for (int q = 0; q < static_cast<int>(std::size(detail::ConvTypeTexts)); ++q) {
+        for (int q = 0; q < static_cast<int>(QORConvTypeStr.size()); ++q) {
             const auto quantity = static_cast<TQORConvType>(q);
             TQORBaseConvertor* convertor = CreateConvertor(quantity, this);
             if (convertor == nullptr)

@@ -504,7 +504,7 @@ TEST_F(ConvertorTest, ConvertorDestroyedFirstLeavesTheNotifyList)
 TEST_F(ConvertorTest, CreateConvertorCoversEveryQuantityWithUnits)
 {
     QObject owner;
-    for (int q = 0; q < static_cast<int>(std::size(detail::ConvTypeTexts)); ++q) {
+    for (int q = 0; q < static_cast<int>(QORConvTypeStr.size()); ++q) {
         const auto quantity = static_cast<TQORConvType>(q);
         TQORBaseConvertor* convertor = CreateConvertor(quantity, &owner);
         if (quantity == ectThermalConductivity) {
