@@ -64,7 +64,9 @@ public:
             quantities_->addItem(QString::fromStdString(QORConvTypeStr[quantity]));
         }
         quantities_->setMinimumWidth(quantities_->sizeHintForColumn(0) + 24);
-        quantities_->setMinimumHeight(quantities_->sizeHintForRow(0) * 16);
+        // Tall enough for every quantity, so the list needs no scrolling.
+        quantities_->setMinimumHeight(quantities_->sizeHintForRow(0) * quantities_->count()
+                                      + 2 * quantities_->frameWidth());
 
         from_ = MakeUnitBox(QStringLiteral("FromUnits"));
         to_ = MakeUnitBox(QStringLiteral("ToUnits"));
