@@ -449,8 +449,11 @@ TEST_F(ConvertorTest, GarbageValuesLoadAsNotHidden)
     TQORTempConvertor temp;
     temp.Hide(ettKelvin);
     temp.SetStoreCtrl(&store);
+    QSignalSpy hiddenCount(&temp, &TQORTempConvertor::noHiddenUnitsChanged);
     temp.LoadFromStore();
     EXPECT_EQ(temp.GetNoHiddenUnits(), 2);
+    ASSERT_EQ(hiddenCount.count(), 1);
+    EXPECT_EQ(hiddenCount.at(0).at(0).toInt(), 2);
     EXPECT_TRUE(temp.IsHidden(ettFahrenheit));
     EXPECT_TRUE(temp.IsHidden(ettRankine));
 }
