@@ -39,14 +39,6 @@ class QSpinBox;
 
 namespace qorkit {
 
-// Where a dialog opens when it is not placed explicitly.
-enum TQORFormPosition : std::uint8_t {
-    poDesigned = 0, // where the form was laid out (its present left and top)
-    poDefault = 1, // where the window system puts new windows
-    poScreenCenter = 2, // centred on the screen
-    poMainFormCenter = 3, // centred on the application's active window
-};
-
 // Fixed version text of the calculator components.
 inline constexpr char QORCalcVersion[] = "qorkit calculators 0.1.0";
 

@@ -31,32 +31,55 @@ TQORBaseSpinEdit::TQORBaseSpinEdit(TQORBaseEdit* editor, QWidget* parent)
     down_->setObjectName(QStringLiteral("DownBtn"));
     connect(up_, &QToolButton::clicked, this, [this] { UpClick(up_); });
     connect(down_, &QToolButton::clicked, this, [this] { DownClick(down_); });
+    connect(editor_, &TQORBaseEdit::change, this, &TQORBaseSpinEdit::valueChanged);
+    connect(editor_, &TQORBaseEdit::readOnlyChanged, this, [this](bool readOnly) {
+        UpdateButtons();
+        Q_EMIT readOnlyChanged(readOnly);
+    });
+    connect(editor_, &TQORBaseEdit::editorEnabledChanged, this,
+            &TQORBaseSpinEdit::editorEnabledChanged);
     SetInterval(interval_);
     UpdateButtons();
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
-void TQORBaseSpinEdit::SetMax(Extended value)
+void TQORBaseSpinEdit::SetRange(Extended min, Extended max, bool unbounded)
 {
-    max_ = value;
-    unbounded_ = false;
-    min_ = std::min(min_, max_);
-    SetValue(GetValue());
-}
-
-void TQORBaseSpinEdit::SetMin(Extended value)
-{
-    min_ = value;
-    unbounded_ = false;
-    max_ = std::max(max_, min_);
-    SetValue(GetValue());
-}
-
-void TQORBaseSpinEdit::SetUnbounded(bool value)
-{
-    unbounded_ = value;
+    const std::pair<bool, void (TQORBaseSpinEdit::*)()> changes[] = {
+        {AssignChanged(min_, min), &TQORBaseSpinEdit::minChanged},
+        {AssignChanged(max_, max), &TQORBaseSpinEdit::maxChanged},
+        {AssignChanged(unbounded_, unbounded), &TQORBaseSpinEdit::unboundedChanged},
+    };
     if (!unbounded_)
         SetValue(GetValue());
+    for (const auto& [changed, signal] : changes) {
+        if (changed)
+            (this->*signal)();
+    }
+}
+
+void TQORBaseSpinEdit::SetMax(Extended value) { SetRange(std::min(min_, value), value, false); }
+
+void TQORBaseSpinEdit::SetMin(Extended value) { SetRange(value, std::max(max_, value), false); }
+
+void TQORBaseSpinEdit::SetUnbounded(bool value) { SetRange(min_, max_, value); }
+
+void TQORBaseSpinEdit::SetStep(Extended value)
+{
+    if (AssignChanged(step_, value))
+        Q_EMIT stepChanged();
+}
+
+void TQORBaseSpinEdit::SetPageStep(Extended value)
+{
+    if (AssignChanged(pageStep_, value))
+        Q_EMIT pageStepChanged();
+}
+
+void TQORBaseSpinEdit::SetWrap(bool value)
+{
+    if (AssignChanged(wrap_, value))
+        Q_EMIT wrapChanged();
 }
 
 Extended TQORBaseSpinEdit::GetValue() { return ReadEditorValue(); }
@@ -70,34 +93,26 @@ void TQORBaseSpinEdit::SetValue(Extended value)
 
 void TQORBaseSpinEdit::SetInterval(int value)
 {
-    interval_ = std::max(value, 1);
+    const bool changed = AssignChanged(interval_, std::max(value, 1));
     up_->setAutoRepeatInterval(interval_);
     down_->setAutoRepeatInterval(interval_);
+    if (changed)
+        Q_EMIT intervalChanged();
 }
 
 void TQORBaseSpinEdit::SetArrows(TQORSpinArrows value)
 {
-    if (value > saNone)
+    if (value > saNone || !AssignChanged(arrows_, value))
         return;
-    arrows_ = value;
     UpdateButtons();
     LayoutChildren();
     updateGeometry();
-}
-
-void TQORBaseSpinEdit::SetArrowsValue(int value)
-{
-    if (value >= saUpDown && value <= saNone)
-        SetArrows(static_cast<TQORSpinArrows>(value));
+    Q_EMIT arrowsChanged();
 }
 
 bool TQORBaseSpinEdit::GetReadOnly() const { return editor_->GetReadOnly(); }
 
-void TQORBaseSpinEdit::SetReadOnly(bool value)
-{
-    editor_->SetReadOnly(value);
-    UpdateButtons();
-}
+void TQORBaseSpinEdit::SetReadOnly(bool value) { editor_->SetReadOnly(value); }
 
 bool TQORBaseSpinEdit::GetEditorEnabled() const { return editor_->GetEditorEnabled(); }
 void TQORBaseSpinEdit::SetEditorEnabled(bool value) { editor_->SetEditorEnabled(value); }
@@ -118,10 +133,20 @@ void TQORBaseSpinEdit::Spin(int direction, Extended amount, QObject* sender)
     if (GetReadOnly())
         return;
     editor_->setFocus();
-    const TQORNotifyEvent& before = direction > 0 ? onUpClick_ : onDownClick_;
-    const TQORNotifyEvent& after = direction > 0 ? onAfterUpClick_ : onAfterDownClick_;
-    if (before)
-        before(sender);
+    struct TStepEvents {
+        const TQORNotifyEvent& Before;
+        void (TQORBaseSpinEdit::*BeforeSignal)();
+        const TQORNotifyEvent& After;
+        void (TQORBaseSpinEdit::*AfterSignal)();
+    };
+    const TStepEvents events = direction > 0
+        ? TStepEvents {onUpClick_, &TQORBaseSpinEdit::upClick, onAfterUpClick_,
+                       &TQORBaseSpinEdit::afterUpClick}
+        : TStepEvents {onDownClick_, &TQORBaseSpinEdit::downClick, onAfterDownClick_,
+                       &TQORBaseSpinEdit::afterDownClick};
+    if (events.Before)
+        events.Before(sender);
+    (this->*events.BeforeSignal)();
     const Extended present = GetValue();
     Extended next = direction > 0 ? present + amount : present - amount;
     if (!unbounded_) {
@@ -134,8 +159,9 @@ void TQORBaseSpinEdit::Spin(int direction, Extended amount, QObject* sender)
             next = (wrap_ && present == limit) ? other : limit;
     }
     WriteEditorValue(next);
-    if (after)
-        after(sender);
+    if (events.After)
+        events.After(sender);
+    (this->*events.AfterSignal)();
 }
 
 void TQORBaseSpinEdit::UpClick(QObject* sender) { Spin(+1, step_, sender); }
@@ -221,6 +247,7 @@ TQORBaseComboBox::TQORBaseComboBox(QWidget* parent)
     : QComboBox(parent), look_(new TQORLook(this, [this] { UpdateColors(); }))
 {
     connect(this, &QComboBox::activated, this, [this] { Change(); });
+    connect(this, &QComboBox::currentIndexChanged, this, &TQORBaseComboBox::itemIndexChanged);
     UpdateColors();
 }
 
@@ -232,23 +259,27 @@ void TQORBaseComboBox::SetItemIndex(int value)
 
 void TQORBaseComboBox::SetStyle(TQORComboStyle value)
 {
-    if (value > csDropDownList)
+    if (value > csDropDownList || !AssignChanged(style_, value))
         return;
-    style_ = value;
     setEditable(style_ == csDropDown);
     UpdateColors();
+    Q_EMIT styleChanged(style_);
 }
 
-void TQORBaseComboBox::SetStyleValue(int value)
+void TQORBaseComboBox::SetUICtrl(TQORUICtrl* value)
 {
-    if (value >= csDropDown && value <= csDropDownList)
-        SetStyle(static_cast<TQORComboStyle>(value));
+    if (value == look_->GetUICtrl())
+        return;
+    look_->SetUICtrl(value);
+    Q_EMIT uiCtrlChanged();
 }
 
-void TQORBaseComboBox::SetUIUsageValue(int value)
+void TQORBaseComboBox::SetUIUsage(TQORUIUsage value)
 {
-    if (value >= uiOwn && value <= uiAll)
-        SetUIUsage(static_cast<TQORUIUsage>(value));
+    if (value > uiAll || value == look_->GetUIUsage())
+        return;
+    look_->SetUIUsage(value);
+    Q_EMIT uiUsageChanged(value);
 }
 
 void TQORBaseComboBox::LoadItems()
@@ -277,6 +308,7 @@ void TQORBaseComboBox::Change()
 {
     if (onChange_)
         onChange_(this);
+    Q_EMIT change();
 }
 
 void TQORBaseComboBox::UpdateColors()
@@ -285,9 +317,15 @@ void TQORBaseComboBox::UpdateColors()
     if (!isEnabled())
         state = esDisabled;
     // A drop-down list paints its face with the button colour, an editable one with Base.
-    look_->Apply(this, state, false, onSpecialColor_,
-                 isEditable() ? QPalette::Base : QPalette::Button,
-                 isEditable() ? QPalette::Text : QPalette::ButtonText);
+    look_->Apply(
+        this, state, false,
+        [this](QColor& background, QColor& text) {
+            if (onSpecialColor_)
+                onSpecialColor_(this, background, text);
+            Q_EMIT specialColor(&background, &text);
+        },
+        isEditable() ? QPalette::Base : QPalette::Button,
+        isEditable() ? QPalette::Text : QPalette::ButtonText);
 }
 
 void TQORBaseComboBox::changeEvent(QEvent* event)
@@ -314,31 +352,49 @@ void TQORBaseComboBox::focusOutEvent(QFocusEvent* event)
 TQORBasePanel::TQORBasePanel(QWidget* parent) : QLabel(parent)
 {
     setAlignment(Qt::AlignCenter);
-    SetBevel(bvLowered);
+    ApplyBevel();
+}
+
+void TQORBasePanel::SetCaption(const QString& value)
+{
+    if (value == text())
+        return;
+    setText(value);
+    Q_EMIT captionChanged(value);
+}
+
+void TQORBasePanel::SetAlignment(Qt::Alignment value)
+{
+    if (value == alignment())
+        return;
+    setAlignment(value);
+    Q_EMIT alignmentChanged(alignment());
 }
 
 void TQORBasePanel::SetBevel(TQORBevel value)
 {
-    if (value > bvRaised)
+    if (value > bvRaised || !AssignChanged(bevel_, value))
         return;
-    bevel_ = value;
+    ApplyBevel();
+    Q_EMIT bevelOuterChanged(bevel_);
+}
+
+void TQORBasePanel::ApplyBevel()
+{
     setFrameShape(bevel_ == bvNone ? QFrame::NoFrame : QFrame::Panel);
     setFrameShadow(bevel_ == bvRaised ? QFrame::Raised : QFrame::Sunken);
 }
 
-void TQORBasePanel::SetBevelValue(int value)
-{
-    if (value >= bvNone && value <= bvRaised)
-        SetBevel(static_cast<TQORBevel>(value));
-}
-
 void TQORBasePanel::SetColor(const QColor& value)
 {
+    if (value == color_)
+        return;
     color_ = value;
     QPalette p = palette();
     p.setColor(QPalette::Window, value.isValid() ? value : QPalette().color(QPalette::Window));
     setPalette(p);
     setAutoFillBackground(value.isValid());
+    Q_EMIT colorChanged(color_);
 }
 
 void TQORBasePanel::SetAutoSize(bool value)
@@ -351,6 +407,7 @@ void TQORBasePanel::SetAutoSize(bool value)
         setMaximumHeight(QWIDGETSIZE_MAX);
     }
     ApplyAutoSize();
+    Q_EMIT autoSizeChanged(autoSize_);
 }
 
 void TQORBasePanel::ApplyAutoSize()

@@ -8,6 +8,7 @@
 #include "QORKITBaseEdit.h"
 #include "QORKITComponent.h"
 #include "QORKITEditColors.h"
+#include "QORKITQtEnums.h"
 #include "QORKITTypes.h"
 
 #include <QComboBox>
@@ -22,26 +23,21 @@ namespace qorkit {
 
 class TQORFloatEdit;
 
-// Where a spin edit's arrows sit.
-enum TQORSpinArrows : std::uint8_t {
-    saUpDown = 0, // stacked at the right edge
-    saLeftRight = 1, // side by side at the right edge, "down" on the left
-    saNone = 2, // hidden: the keyboard still steps
-};
-
 class TQORBaseSpinEdit : public QWidget {
     Q_OBJECT
-    Q_PROPERTY(double Max READ GetMaxDouble WRITE SetMaxDouble)
-    Q_PROPERTY(double Min READ GetMinDouble WRITE SetMinDouble)
-    Q_PROPERTY(bool Unbounded READ GetUnbounded WRITE SetUnbounded)
-    Q_PROPERTY(double Value READ GetValueDouble WRITE SetValueDouble)
-    Q_PROPERTY(double Step READ GetStepDouble WRITE SetStepDouble)
-    Q_PROPERTY(double PageStep READ GetPageStepDouble WRITE SetPageStepDouble)
-    Q_PROPERTY(bool Wrap READ GetWrap WRITE SetWrap)
-    Q_PROPERTY(int Interval READ GetInterval WRITE SetInterval)
-    Q_PROPERTY(int Arrows READ GetArrowsValue WRITE SetArrowsValue)
-    Q_PROPERTY(bool ReadOnly READ GetReadOnly WRITE SetReadOnly)
-    Q_PROPERTY(bool EditorEnabled READ GetEditorEnabled WRITE SetEditorEnabled)
+    Q_PROPERTY(double Max READ GetMaxDouble WRITE SetMaxDouble NOTIFY maxChanged)
+    Q_PROPERTY(double Min READ GetMinDouble WRITE SetMinDouble NOTIFY minChanged)
+    Q_PROPERTY(bool Unbounded READ GetUnbounded WRITE SetUnbounded NOTIFY unboundedChanged)
+    Q_PROPERTY(double Value READ GetValueDouble WRITE SetValueDouble NOTIFY valueChanged)
+    Q_PROPERTY(double Step READ GetStepDouble WRITE SetStepDouble NOTIFY stepChanged)
+    Q_PROPERTY(
+        double PageStep READ GetPageStepDouble WRITE SetPageStepDouble NOTIFY pageStepChanged)
+    Q_PROPERTY(bool Wrap READ GetWrap WRITE SetWrap NOTIFY wrapChanged)
+    Q_PROPERTY(int Interval READ GetInterval WRITE SetInterval NOTIFY intervalChanged)
+    Q_PROPERTY(qorkit::TQORSpinArrows Arrows READ GetArrows WRITE SetArrows NOTIFY arrowsChanged)
+    Q_PROPERTY(bool ReadOnly READ GetReadOnly WRITE SetReadOnly NOTIFY readOnlyChanged)
+    Q_PROPERTY(
+        bool EditorEnabled READ GetEditorEnabled WRITE SetEditorEnabled NOTIFY editorEnabledChanged)
 
 public:
     Extended GetMax() const { return max_; }
@@ -56,11 +52,11 @@ public:
     // A value above Max stores Max, below Min stores Min (unless Unbounded).
     void SetValue(Extended value);
     Extended GetStep() const { return step_; }
-    void SetStep(Extended value) { step_ = value; }
+    void SetStep(Extended value);
     Extended GetPageStep() const { return pageStep_; }
-    void SetPageStep(Extended value) { pageStep_ = value; }
+    void SetPageStep(Extended value);
     bool GetWrap() const { return wrap_; }
-    void SetWrap(bool value) { wrap_ = value; }
+    void SetWrap(bool value);
     // Auto-repeat interval of a held arrow, in milliseconds.
     int GetInterval() const { return interval_; }
     void SetInterval(int value);
@@ -89,6 +85,27 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+Q_SIGNALS:
+    void maxChanged();
+    void minChanged();
+    void unboundedChanged();
+    // The value changed (by a setter, a click or typed text).
+    void valueChanged();
+    void stepChanged();
+    void pageStepChanged();
+    void wrapChanged();
+    void intervalChanged();
+    void arrowsChanged();
+    void readOnlyChanged(bool readOnly);
+    void editorEnabledChanged(bool editorEnabled);
+    // The events, emitted right after the OnX handler; the sender of the std::function handler
+    // is the arrow button (or the spin edit for a key), QObject::sender() of the signal the
+    // spin edit.
+    void upClick();
+    void downClick();
+    void afterUpClick();
+    void afterDownClick();
+
 protected:
     // Takes ownership of `editor`, which holds the value.
     TQORBaseSpinEdit(TQORBaseEdit* editor, QWidget* parent);
@@ -106,11 +123,11 @@ private:
     double GetValueDouble() { return static_cast<double>(GetValue()); }
     void SetValueDouble(double v) { SetValue(v); }
     double GetStepDouble() const { return static_cast<double>(step_); }
-    void SetStepDouble(double v) { step_ = v; }
+    void SetStepDouble(double v) { SetStep(v); }
     double GetPageStepDouble() const { return static_cast<double>(pageStep_); }
-    void SetPageStepDouble(double v) { pageStep_ = v; }
-    int GetArrowsValue() const { return arrows_; }
-    void SetArrowsValue(int value);
+    void SetPageStepDouble(double v) { SetPageStep(v); }
+    // Applies new bounds and signals what changed; the value is clamped into them.
+    void SetRange(Extended min, Extended max, bool unbounded);
     // Steps by `amount` in `direction` (+1 up, -1 down) with the clamp and wrap rules.
     void Spin(int direction, Extended amount, QObject* sender);
     void LayoutChildren();
@@ -145,18 +162,13 @@ protected:
     void WriteEditorValue(Extended value) override;
 };
 
-enum TQORComboStyle : std::uint8_t {
-    csDropDown = 0, // the text can be typed
-    csDropDownList = 1, // only the list's items can be chosen
-};
-
 class TQORBaseComboBox : public QComboBox {
     Q_OBJECT
-    Q_PROPERTY(int ItemIndex READ GetItemIndex WRITE SetItemIndex)
-    Q_PROPERTY(int Style READ GetStyleValue WRITE SetStyleValue)
+    Q_PROPERTY(int ItemIndex READ GetItemIndex WRITE SetItemIndex NOTIFY itemIndexChanged)
+    Q_PROPERTY(qorkit::TQORComboStyle Style READ GetStyle WRITE SetStyle NOTIFY styleChanged)
     Q_PROPERTY(TQOREditColorSet* ColorSet READ GetColorSet)
-    Q_PROPERTY(TQORUICtrl* UICtrl READ GetUICtrl WRITE SetUICtrl)
-    Q_PROPERTY(int UIUsage READ GetUIUsageValue WRITE SetUIUsageValue)
+    Q_PROPERTY(TQORUICtrl* UICtrl READ GetUICtrl WRITE SetUICtrl NOTIFY uiCtrlChanged)
+    Q_PROPERTY(qorkit::TQORUIUsage UIUsage READ GetUIUsage WRITE SetUIUsage NOTIFY uiUsageChanged)
 
 public:
     explicit TQORBaseComboBox(QWidget* parent = nullptr);
@@ -171,15 +183,24 @@ public:
 
     TQOREditColorSet* GetColorSet() const { return look_->GetColorSet(); }
     TQORUICtrl* GetUICtrl() const { return look_->GetUICtrl(); }
-    void SetUICtrl(TQORUICtrl* value) { look_->SetUICtrl(value); }
+    void SetUICtrl(TQORUICtrl* value);
     TQORUIUsage GetUIUsage() const { return look_->GetUIUsage(); }
-    void SetUIUsage(TQORUIUsage value) { look_->SetUIUsage(value); }
+    void SetUIUsage(TQORUIUsage value);
 
     // The user chose an item (not raised for changes made through the setters).
     void SetOnChange(TQORNotifyEvent e) { onChange_ = std::move(e); }
     const TQORNotifyEvent& GetOnChange() const { return onChange_; }
     void SetOnSpecialColor(TQORSpecialColorEvent e) { onSpecialColor_ = std::move(e); }
     const TQORSpecialColorEvent& GetOnSpecialColor() const { return onSpecialColor_; }
+
+Q_SIGNALS:
+    void itemIndexChanged(int itemIndex);
+    void styleChanged(qorkit::TQORComboStyle style);
+    void uiCtrlChanged();
+    void uiUsageChanged(qorkit::TQORUIUsage uiUsage);
+    // The events, emitted right after the OnX handler.
+    void change();
+    void specialColor(QColor* background, QColor* text);
 
 protected:
     // The items LoadItems puts in the list; the base has none (items are added by hand).
@@ -194,34 +215,27 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    int GetStyleValue() const { return style_; }
-    void SetStyleValue(int value);
-    int GetUIUsageValue() const { return GetUIUsage(); }
-    void SetUIUsageValue(int value);
-
     TQORComboStyle style_ = csDropDownList;
     TQORLook* look_;
     TQORNotifyEvent onChange_;
     TQORSpecialColorEvent onSpecialColor_;
 };
 
-enum TQORBevel : std::uint8_t { bvNone = 0, bvLowered = 1, bvRaised = 2 };
-
 class TQORBasePanel : public QLabel {
     Q_OBJECT
-    Q_PROPERTY(QString Caption READ GetCaption WRITE SetCaption)
-    Q_PROPERTY(Qt::Alignment Alignment READ GetAlignment WRITE SetAlignment)
-    Q_PROPERTY(int BevelOuter READ GetBevelValue WRITE SetBevelValue)
-    Q_PROPERTY(QColor Color READ GetColor WRITE SetColor)
-    Q_PROPERTY(bool AutoSize READ GetAutoSize WRITE SetAutoSize)
+    Q_PROPERTY(QString Caption READ GetCaption WRITE SetCaption NOTIFY captionChanged)
+    Q_PROPERTY(Qt::Alignment Alignment READ GetAlignment WRITE SetAlignment NOTIFY alignmentChanged)
+    Q_PROPERTY(qorkit::TQORBevel BevelOuter READ GetBevel WRITE SetBevel NOTIFY bevelOuterChanged)
+    Q_PROPERTY(QColor Color READ GetColor WRITE SetColor NOTIFY colorChanged)
+    Q_PROPERTY(bool AutoSize READ GetAutoSize WRITE SetAutoSize NOTIFY autoSizeChanged)
 
 public:
     explicit TQORBasePanel(QWidget* parent = nullptr);
 
     QString GetCaption() const { return text(); }
-    void SetCaption(const QString& value) { setText(value); }
+    void SetCaption(const QString& value);
     Qt::Alignment GetAlignment() const { return alignment(); }
-    void SetAlignment(Qt::Alignment value) { setAlignment(value); }
+    void SetAlignment(Qt::Alignment value);
     TQORBevel GetBevel() const { return bevel_; }
     void SetBevel(TQORBevel value);
     // Invalid: the style's window colour.
@@ -236,6 +250,13 @@ public:
     void EndLoading();
     bool IsLoading() const { return loading_ > 0; }
 
+Q_SIGNALS:
+    void captionChanged(const QString& caption);
+    void alignmentChanged(Qt::Alignment alignment);
+    void bevelOuterChanged(qorkit::TQORBevel bevelOuter);
+    void colorChanged(const QColor& color);
+    void autoSizeChanged(bool autoSize);
+
 protected:
     // Lays out the children for the present size; the base does nothing.
     virtual void Resize() { }
@@ -244,8 +265,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    int GetBevelValue() const { return bevel_; }
-    void SetBevelValue(int value);
+    void ApplyBevel();
     void ApplyAutoSize();
 
     TQORBevel bevel_ = bvLowered;

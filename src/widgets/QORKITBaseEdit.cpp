@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QMetaMethod>
 #include <QMouseEvent>
 #include <QTimer>
 
@@ -45,7 +46,56 @@ TQORBaseEdit::TQORBaseEdit(QWidget* parent)
             UpdateColors();
         }
     });
+    // Typing, undo and the clipboard mark the text modified; QLineEdit::setText does not.
+    connect(this, &QLineEdit::textChanged, this, [this](const QString& text) {
+        if (showingText_ > 0 || isModified()) {
+            Q_EMIT asStringChanged(text);
+            return;
+        }
+        TextSetFromOutside();
+        // Shown as it was set: the take-over changed nothing that would have signalled.
+        if (this->text() == text)
+            Q_EMIT asStringChanged(text);
+    });
     QLineEdit::setMaxLength(UnlimitedLength);
+}
+
+void TQORBaseEdit::DoNotify(const TQORNotifyEvent& handler, void (TQORBaseEdit::*signal)())
+{
+    if (handler)
+        handler(this);
+    (this->*signal)();
+}
+
+void TQORBaseEdit::DoMouse(const TQORMouseEvent& handler,
+                           void (TQORBaseEdit::*signal)(QMouseEvent*), QMouseEvent* event)
+{
+    if (handler)
+        handler(this, event);
+    (this->*signal)(event);
+}
+
+void TQORBaseEdit::DoKey(const TQORKeyEvent& handler, void (TQORBaseEdit::*signal)(QKeyEvent*),
+                         QKeyEvent* event)
+{
+    if (handler)
+        handler(this, event);
+    (this->*signal)(event);
+}
+
+void TQORBaseEdit::DoNullEvents(bool becameNull)
+{
+    DoNotify(onNullChange_, &TQORBaseEdit::nullChange);
+    Q_EMIT nullChanged(null_);
+    if (becameNull)
+        DoNotify(onNull_, &TQORBaseEdit::null);
+}
+
+void TQORBaseEdit::DoSpecialColor(QColor& background, QColor& text)
+{
+    if (onSpecialColor_)
+        onSpecialColor_(this, background, text);
+    Q_EMIT specialColor(&background, &text);
 }
 
 void TQORBaseEdit::SetNull(bool value)
@@ -54,10 +104,7 @@ void TQORBaseEdit::SetNull(bool value)
         return;
     null_ = value;
     Redisplay();
-    if (onNullChange_)
-        onNullChange_(this);
-    if (null_ && onNull_)
-        onNull_(this);
+    DoNullEvents(null_);
 }
 
 void TQORBaseEdit::ClearNullQuietly()
@@ -65,8 +112,7 @@ void TQORBaseEdit::ClearNullQuietly()
     if (!null_)
         return;
     null_ = false;
-    if (onNullChange_)
-        onNullChange_(this);
+    DoNullEvents(false);
 }
 
 void TQORBaseEdit::SetNullStr(const QString& value)
@@ -76,6 +122,67 @@ void TQORBaseEdit::SetNullStr(const QString& value)
     nullStr_ = value;
     if (null_)
         Redisplay();
+    Q_EMIT nullStrChanged(nullStr_);
+}
+
+void TQORBaseEdit::SetAllowKbdNull(bool value)
+{
+    if (AssignChanged(allowKbdNull_, value))
+        Q_EMIT allowKbdNullChanged(value);
+}
+
+void TQORBaseEdit::SetBlankIsNull(bool value)
+{
+    if (AssignChanged(blankIsNull_, value))
+        Q_EMIT blankIsNullChanged(value);
+}
+
+void TQORBaseEdit::SetAutoSelect(bool value)
+{
+    if (AssignChanged(autoSelect_, value))
+        Q_EMIT autoSelectChanged(value);
+}
+
+void TQORBaseEdit::SetAutoSelectClick(bool value)
+{
+    if (AssignChanged(autoSelectClick_, value))
+        Q_EMIT autoSelectClickChanged(value);
+}
+
+void TQORBaseEdit::SetAutoAdvance(bool value)
+{
+    if (AssignChanged(autoAdvance_, value))
+        Q_EMIT autoAdvanceChanged(value);
+}
+
+void TQORBaseEdit::SetStoreValue(bool value)
+{
+    if (AssignChanged(storeValue_, value))
+        Q_EMIT storeValueChanged(value);
+}
+
+void TQORBaseEdit::SetAlignment(Qt::Alignment value)
+{
+    if (value == alignment())
+        return;
+    setAlignment(value);
+    Q_EMIT alignmentChanged(alignment());
+}
+
+void TQORBaseEdit::SetUICtrl(TQORUICtrl* value)
+{
+    if (value == look_->GetUICtrl())
+        return;
+    look_->SetUICtrl(value);
+    Q_EMIT uiCtrlChanged();
+}
+
+void TQORBaseEdit::SetUIUsage(TQORUIUsage value)
+{
+    if (value > uiAll || value == look_->GetUIUsage())
+        return;
+    look_->SetUIUsage(value);
+    Q_EMIT uiUsageChanged(value);
 }
 
 void TQORBaseEdit::SetBlankWhenNull(bool value)
@@ -85,6 +192,7 @@ void TQORBaseEdit::SetBlankWhenNull(bool value)
     blankWhenNull_ = value;
     if (null_)
         Redisplay();
+    Q_EMIT blankWhenNullChanged(value);
 }
 
 void TQORBaseEdit::SetReadOnly(bool value)
@@ -93,6 +201,7 @@ void TQORBaseEdit::SetReadOnly(bool value)
         return;
     readOnly_ = value;
     UpdateReadOnly();
+    Q_EMIT readOnlyChanged(value);
 }
 
 void TQORBaseEdit::SetEditorEnabled(bool value)
@@ -101,11 +210,14 @@ void TQORBaseEdit::SetEditorEnabled(bool value)
         return;
     editorEnabled_ = value;
     UpdateReadOnly();
+    Q_EMIT editorEnabledChanged(value);
 }
 
 void TQORBaseEdit::UpdateReadOnly()
 {
+    applyingReadOnly_ = true;
     QLineEdit::setReadOnly(readOnly_ || !editorEnabled_);
+    applyingReadOnly_ = false;
     UpdateColors();
 }
 
@@ -113,37 +225,44 @@ bool TQORBaseEdit::GetAutoSelect() const { return look_->AutoSelect(autoSelect_)
 
 void TQORBaseEdit::SetMaxLength(int value)
 {
-    maxLength_ = value < 0 ? 0 : value;
+    if (!AssignChanged(maxLength_, value < 0 ? 0 : value))
+        return;
     QLineEdit::setMaxLength(maxLength_ == 0 ? UnlimitedLength : maxLength_);
+    Q_EMIT maxLengthChanged(maxLength_);
 }
 
 bool TQORBaseEdit::GetTabStop() const { return (focusPolicy() & Qt::TabFocus) != 0; }
 
 void TQORBaseEdit::SetTabStop(bool value)
 {
+    if (value == GetTabStop())
+        return;
     setFocusPolicy(value ? Qt::StrongFocus : Qt::ClickFocus);
+    Q_EMIT tabStopChanged(value);
 }
 
 void TQORBaseEdit::SetAsString(const QString& value)
 {
+    ++showingText_;
     setText(value);
+    --showingText_;
     setModified(true);
     ValidateEdit();
     Redisplay();
 }
 
-void TQORBaseEdit::SetUIUsageValue(int value)
+void TQORBaseEdit::TextSetFromOutside()
 {
-    if (value >= uiOwn && value <= uiAll)
-        SetUIUsage(static_cast<TQORUIUsage>(value));
+    setModified(true);
+    ValidateEdit();
+    Redisplay();
 }
 
 void TQORBaseEdit::ApplyLook()
 {
     setFrame(!look_->Flat(false));
     UpdateColors();
-    if (onColorSetChange_)
-        onColorSetChange_(this);
+    DoNotify(onColorSetChange_, &TQORBaseEdit::colorSetChange);
 }
 
 TQOREditState TQORBaseEdit::GetEditState() const
@@ -163,16 +282,19 @@ TQOREditState TQORBaseEdit::GetEditState() const
 
 void TQORBaseEdit::UpdateColors()
 {
-    look_->Apply(this, GetEditState(), sign_ < 0 && !null_, onSpecialColor_);
+    look_->Apply(this, GetEditState(), sign_ < 0 && !null_,
+                 [this](QColor& background, QColor& text) { DoSpecialColor(background, text); });
 }
 
 QString TQORBaseEdit::DisplayText() const { return text(); }
 
 void TQORBaseEdit::ShowText(const QString& value)
 {
+    ++showingText_;
     if (text() != value)
         setText(value);
     setModified(false);
+    --showingText_;
 }
 
 void TQORBaseEdit::Redisplay()
@@ -212,17 +334,16 @@ void TQORBaseEdit::ReportValidationError(const QString& message)
     // The stored value is untouched; show it again so the edit never shows a value it
     // does not hold.
     Redisplay();
+    const bool heard = onValidationError_
+        || isSignalConnected(QMetaMethod::fromSignal(&TQORBaseEdit::validationError));
     if (onValidationError_)
         onValidationError_(this, message);
-    else
+    Q_EMIT validationError(message);
+    if (!heard)
         QApplication::beep();
 }
 
-void TQORBaseEdit::Change()
-{
-    if (onChange_)
-        onChange_(this);
-}
+void TQORBaseEdit::Change() { DoNotify(onChange_, &TQORBaseEdit::change); }
 
 void TQORBaseEdit::DoSignChange(int sign)
 {
@@ -230,13 +351,13 @@ void TQORBaseEdit::DoSignChange(int sign)
     UpdateColors();
     if (onSignChange_)
         onSignChange_(this, sign_);
+    Q_EMIT signChange(sign_);
 }
 
 void TQORBaseEdit::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
-    if (onEnter_)
-        onEnter_(this);
+    DoNotify(onEnter_, &TQORBaseEdit::enter);
     if (switchOnFocus_ && !isReadOnly()) {
         editing_ = true;
         Redisplay();
@@ -266,17 +387,15 @@ void TQORBaseEdit::focusOutEvent(QFocusEvent* event)
     }
     QLineEdit::focusOutEvent(event);
     UpdateColors();
-    if (onExit_)
-        onExit_(this);
+    DoNotify(onExit_, &TQORBaseEdit::exit);
 }
 
 void TQORBaseEdit::keyPressEvent(QKeyEvent* event)
 {
     event->accept();
-    if (onKeyDown_)
-        onKeyDown_(this, event);
-    if (event->isAccepted() && onKeyPress_ && !event->text().isEmpty())
-        onKeyPress_(this, event);
+    DoKey(onKeyDown_, &TQORBaseEdit::keyDown, event);
+    if (event->isAccepted() && !event->text().isEmpty())
+        DoKey(onKeyPress_, &TQORBaseEdit::keyPress, event);
     if (event->isAccepted())
         KeyDown(event);
 }
@@ -284,8 +403,7 @@ void TQORBaseEdit::keyPressEvent(QKeyEvent* event)
 void TQORBaseEdit::keyReleaseEvent(QKeyEvent* event)
 {
     event->accept();
-    if (onKeyUp_)
-        onKeyUp_(this, event);
+    DoKey(onKeyUp_, &TQORBaseEdit::keyUp, event);
     if (event->isAccepted())
         KeyUp(event);
 }
@@ -295,8 +413,7 @@ void TQORBaseEdit::KeyUp(QKeyEvent* event) { QLineEdit::keyReleaseEvent(event); 
 void TQORBaseEdit::mousePressEvent(QMouseEvent* event)
 {
     event->accept();
-    if (onMouseDown_)
-        onMouseDown_(this, event);
+    DoMouse(onMouseDown_, &TQORBaseEdit::mouseDown, event);
     if (event->isAccepted())
         QLineEdit::mousePressEvent(event);
 }
@@ -304,20 +421,17 @@ void TQORBaseEdit::mousePressEvent(QMouseEvent* event)
 void TQORBaseEdit::mouseReleaseEvent(QMouseEvent* event)
 {
     event->accept();
-    if (onMouseUp_)
-        onMouseUp_(this, event);
+    DoMouse(onMouseUp_, &TQORBaseEdit::mouseUp, event);
     if (event->isAccepted())
         QLineEdit::mouseReleaseEvent(event);
-    if (onClick_ && event->button() == Qt::LeftButton
-        && rect().contains(event->position().toPoint()))
-        onClick_(this);
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+        DoNotify(onClick_, &TQORBaseEdit::click);
 }
 
 void TQORBaseEdit::mouseMoveEvent(QMouseEvent* event)
 {
     event->accept();
-    if (onMouseMove_)
-        onMouseMove_(this, event);
+    DoMouse(onMouseMove_, &TQORBaseEdit::mouseMove, event);
     if (event->isAccepted())
         QLineEdit::mouseMoveEvent(event);
 }
@@ -325,8 +439,7 @@ void TQORBaseEdit::mouseMoveEvent(QMouseEvent* event)
 void TQORBaseEdit::mouseDoubleClickEvent(QMouseEvent* event)
 {
     QLineEdit::mouseDoubleClickEvent(event);
-    if (onDblClick_)
-        onDblClick_(this);
+    DoNotify(onDblClick_, &TQORBaseEdit::dblClick);
 }
 
 void TQORBaseEdit::ClearUndo()
@@ -334,7 +447,9 @@ void TQORBaseEdit::ClearUndo()
     // Setting the text is what empties the undo history.
     const bool modified = isModified();
     const int caret = cursorPosition();
+    ++showingText_;
     setText(text());
+    --showingText_;
     setModified(modified);
     setCursorPosition(caret);
 }
@@ -396,6 +511,11 @@ void TQORBaseEdit::changeEvent(QEvent* event)
     QLineEdit::changeEvent(event);
     if (event->type() == QEvent::EnabledChange)
         UpdateColors();
+    // QLineEdit::setReadOnly called from outside: the same as SetReadOnly.
+    if (event->type() == QEvent::ReadOnlyChange && !applyingReadOnly_
+        && isReadOnly() != (readOnly_ || !editorEnabled_)) {
+        SetReadOnly(isReadOnly());
+    }
 }
 
 TQORStartEdit::TQORStartEdit(QWidget* parent) : TQORBaseEdit(parent) { SetSwitchTextOnFocus(true); }

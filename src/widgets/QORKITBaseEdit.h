@@ -38,25 +38,31 @@ private:
 
 class TQORBaseEdit : public QLineEdit {
     Q_OBJECT
-    Q_PROPERTY(bool Null READ GetNull WRITE SetNull)
-    Q_PROPERTY(QString NullStr READ GetNullStr WRITE SetNullStr)
-    Q_PROPERTY(bool AllowKbdNull READ GetAllowKbdNull WRITE SetAllowKbdNull)
-    Q_PROPERTY(bool BlankWhenNull READ GetBlankWhenNull WRITE SetBlankWhenNull)
-    Q_PROPERTY(bool BlankIsNull READ GetBlankIsNull WRITE SetBlankIsNull)
-    Q_PROPERTY(bool ReadOnly READ GetReadOnly WRITE SetReadOnly)
-    Q_PROPERTY(bool EditorEnabled READ GetEditorEnabled WRITE SetEditorEnabled)
-    Q_PROPERTY(bool AutoSelect READ GetAutoSelect WRITE SetAutoSelect)
-    Q_PROPERTY(bool AutoSelectClick READ GetAutoSelectClick WRITE SetAutoSelectClick)
-    Q_PROPERTY(bool AutoAdvance READ GetAutoAdvance WRITE SetAutoAdvance)
-    Q_PROPERTY(int MaxLength READ GetMaxLength WRITE SetMaxLength)
-    Q_PROPERTY(bool TabStop READ GetTabStop WRITE SetTabStop)
-    Q_PROPERTY(bool StoreValue READ GetStoreValue WRITE SetStoreValue)
-    Q_PROPERTY(Qt::Alignment Alignment READ GetAlignment WRITE SetAlignment)
-    Q_PROPERTY(QString Text READ text WRITE SetAsString STORED false)
-    Q_PROPERTY(QString AsString READ GetAsString WRITE SetAsString STORED false)
+    Q_PROPERTY(bool Null READ GetNull WRITE SetNull NOTIFY nullChanged)
+    Q_PROPERTY(QString NullStr READ GetNullStr WRITE SetNullStr NOTIFY nullStrChanged)
+    Q_PROPERTY(
+        bool AllowKbdNull READ GetAllowKbdNull WRITE SetAllowKbdNull NOTIFY allowKbdNullChanged)
+    Q_PROPERTY(
+        bool BlankWhenNull READ GetBlankWhenNull WRITE SetBlankWhenNull NOTIFY blankWhenNullChanged)
+    Q_PROPERTY(bool BlankIsNull READ GetBlankIsNull WRITE SetBlankIsNull NOTIFY blankIsNullChanged)
+    Q_PROPERTY(bool ReadOnly READ GetReadOnly WRITE SetReadOnly NOTIFY readOnlyChanged)
+    Q_PROPERTY(
+        bool EditorEnabled READ GetEditorEnabled WRITE SetEditorEnabled NOTIFY editorEnabledChanged)
+    Q_PROPERTY(bool AutoSelect READ GetAutoSelect WRITE SetAutoSelect NOTIFY autoSelectChanged)
+    Q_PROPERTY(bool AutoSelectClick READ GetAutoSelectClick WRITE SetAutoSelectClick NOTIFY
+                   autoSelectClickChanged)
+    Q_PROPERTY(bool AutoAdvance READ GetAutoAdvance WRITE SetAutoAdvance NOTIFY autoAdvanceChanged)
+    Q_PROPERTY(int MaxLength READ GetMaxLength WRITE SetMaxLength NOTIFY maxLengthChanged)
+    Q_PROPERTY(bool TabStop READ GetTabStop WRITE SetTabStop NOTIFY tabStopChanged)
+    Q_PROPERTY(bool StoreValue READ GetStoreValue WRITE SetStoreValue NOTIFY storeValueChanged)
+    Q_PROPERTY(Qt::Alignment Alignment READ GetAlignment WRITE SetAlignment NOTIFY alignmentChanged)
+    Q_PROPERTY(QString Text READ text WRITE SetAsString NOTIFY asStringChanged STORED false)
+    Q_PROPERTY(
+        QString AsString READ GetAsString WRITE SetAsString NOTIFY asStringChanged STORED false)
     Q_PROPERTY(TQOREditColorSet* ColorSet READ GetColorSet)
-    Q_PROPERTY(TQORUICtrl* UICtrl READ GetUICtrl WRITE SetUICtrl)
-    Q_PROPERTY(int UIUsage READ GetUIUsageValue WRITE SetUIUsageValue)
+    Q_PROPERTY(TQORUICtrl* UICtrl READ GetUICtrl WRITE SetUICtrl NOTIFY uiCtrlChanged)
+    Q_PROPERTY(qorkit::TQORUIUsage UIUsage READ GetUIUsage WRITE SetUIUsage NOTIFY uiUsageChanged)
+    // Transient, as QLineEdit's own selection and modified flag: no change signals.
     Q_PROPERTY(int SelStart READ GetSelStart WRITE SetSelStart STORED false)
     Q_PROPERTY(int SelLength READ GetSelLength WRITE SetSelLength STORED false)
     Q_PROPERTY(QString SelText READ GetSelText WRITE SetSelText STORED false)
@@ -74,11 +80,12 @@ public:
     // The user may make the edit null: by typing the null string (any letter case) or, with
     // BlankIsNull, by leaving the text blank.
     bool GetAllowKbdNull() const { return allowKbdNull_; }
-    void SetAllowKbdNull(bool value) { allowKbdNull_ = value; }
+    void SetAllowKbdNull(bool value);
     bool GetBlankWhenNull() const { return blankWhenNull_; }
     void SetBlankWhenNull(bool value);
     bool GetBlankIsNull() const { return blankIsNull_; }
-    void SetBlankIsNull(bool value) { blankIsNull_ = value; }
+    void SetBlankIsNull(bool value);
+    // The same state as QLineEdit's readOnly: setReadOnly() and SetReadOnly() both set it.
     bool GetReadOnly() const { return readOnly_; }
     void SetReadOnly(bool value);
     // Off: the text cannot be typed into, but the control is not shown as read-only (a
@@ -87,12 +94,12 @@ public:
     void SetEditorEnabled(bool value);
     // Select the whole text when the edit is entered with the keyboard / with a click.
     bool GetAutoSelect() const;
-    void SetAutoSelect(bool value) { autoSelect_ = value; }
+    void SetAutoSelect(bool value);
     bool GetAutoSelectClick() const { return autoSelectClick_; }
-    void SetAutoSelectClick(bool value) { autoSelectClick_ = value; }
+    void SetAutoSelectClick(bool value);
     // Enter takes the text over and moves the focus to the next control.
     bool GetAutoAdvance() const { return autoAdvance_; }
-    void SetAutoAdvance(bool value) { autoAdvance_ = value; }
+    void SetAutoAdvance(bool value);
     // Longest text the user may type; 0 for no limit.
     int GetMaxLength() const { return maxLength_; }
     void SetMaxLength(int value);
@@ -100,18 +107,20 @@ public:
     void SetTabStop(bool value);
     // Whether a host saving the form should save the value (read by the value's property).
     bool GetStoreValue() const { return storeValue_; }
-    void SetStoreValue(bool value) { storeValue_ = value; }
+    void SetStoreValue(bool value);
     Qt::Alignment GetAlignment() const { return alignment(); }
-    void SetAlignment(Qt::Alignment value) { setAlignment(value); }
+    void SetAlignment(Qt::Alignment value);
     QString GetAsString() const { return text(); }
-    // Takes `value` over as if the user had typed it and left the edit.
+    // Takes `value` over as if the user had typed it and left the edit. Text set with
+    // QLineEdit::setText is taken over the same way, so the text never shows another value
+    // than the one the edit holds.
     void SetAsString(const QString& value);
 
     TQOREditColorSet* GetColorSet() const { return look_->GetColorSet(); }
     TQORUICtrl* GetUICtrl() const { return look_->GetUICtrl(); }
-    void SetUICtrl(TQORUICtrl* value) { look_->SetUICtrl(value); }
+    void SetUICtrl(TQORUICtrl* value);
     TQORUIUsage GetUIUsage() const { return look_->GetUIUsage(); }
-    void SetUIUsage(TQORUIUsage value) { look_->SetUIUsage(value); }
+    void SetUIUsage(TQORUIUsage value);
     // The colour set in force: the UI control's or the edit's own.
     const TQOREditColorSet* EffectiveColorSet() const { return look_->EffectiveColorSet(); }
     TQOREditState GetEditState() const;
@@ -189,6 +198,45 @@ public:
     void SetOnValidationError(TQORValidationErrorEvent e) { onValidationError_ = std::move(e); }
     const TQORValidationErrorEvent& GetOnValidationError() const { return onValidationError_; }
 
+Q_SIGNALS:
+    // Property changes.
+    void nullChanged(bool null);
+    void nullStrChanged(const QString& nullStr);
+    void allowKbdNullChanged(bool allowKbdNull);
+    void blankWhenNullChanged(bool blankWhenNull);
+    void blankIsNullChanged(bool blankIsNull);
+    void readOnlyChanged(bool readOnly);
+    void editorEnabledChanged(bool editorEnabled);
+    void autoSelectChanged(bool autoSelect);
+    void autoSelectClickChanged(bool autoSelectClick);
+    void autoAdvanceChanged(bool autoAdvance);
+    void maxLengthChanged(int maxLength);
+    void tabStopChanged(bool tabStop);
+    void storeValueChanged(bool storeValue);
+    void alignmentChanged(Qt::Alignment alignment);
+    void uiCtrlChanged();
+    void uiUsageChanged(qorkit::TQORUIUsage uiUsage);
+    // QLineEdit::textChanged, as the change signal of Text and AsString.
+    void asStringChanged(const QString& text);
+    // The events, emitted right after the OnX handler.
+    void click();
+    void dblClick();
+    void enter();
+    void exit();
+    void mouseDown(QMouseEvent* event);
+    void mouseUp(QMouseEvent* event);
+    void mouseMove(QMouseEvent* event);
+    void keyDown(QKeyEvent* event);
+    void keyPress(QKeyEvent* event);
+    void keyUp(QKeyEvent* event);
+    void change();
+    void null();
+    void nullChange();
+    void signChange(int sign);
+    void colorSetChange();
+    void specialColor(QColor* background, QColor* text);
+    void validationError(const QString& message);
+
 protected:
     virtual QString DisplayText() const;
     virtual QString EditText() const { return DisplayText(); }
@@ -224,11 +272,19 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    int GetUIUsageValue() const { return GetUIUsage(); }
-    void SetUIUsageValue(int value);
     void ApplyLook();
     void UpdateReadOnly();
     void ShowText(const QString& text);
+    // Text put in by QLineEdit::setText (not by the user, not by the edit): taken over.
+    void TextSetFromOutside();
+    // Each raises one event: its OnX handler, then its signal.
+    void DoNullEvents(bool becameNull);
+    void DoSpecialColor(QColor& background, QColor& text);
+    void DoMouse(const TQORMouseEvent& handler, void (TQORBaseEdit::*signal)(QMouseEvent*),
+                 QMouseEvent* event);
+    void DoKey(const TQORKeyEvent& handler, void (TQORBaseEdit::*signal)(QKeyEvent*),
+               QKeyEvent* event);
+    void DoNotify(const TQORNotifyEvent& handler, void (TQORBaseEdit::*signal)());
 
     bool null_ = false;
     QString nullStr_;
@@ -245,6 +301,8 @@ private:
     bool switchOnFocus_ = false;
     bool editing_ = false;
     bool validationFailed_ = false;
+    int showingText_ = 0; // the edit itself is setting the text
+    bool applyingReadOnly_ = false;
     int sign_ = 0;
     TQORLook* look_;
     TQORNotifyEvent onChange_;

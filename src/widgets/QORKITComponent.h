@@ -2,7 +2,9 @@
 // notice that lets a component drop its reference to another component that goes away.
 //
 // Events are std::function members set with SetOnX and read with GetOnX; they are called
-// synchronously, only when assigned, with the control that raised them as the sender.
+// synchronously, only when assigned, with the control that raised them as the sender. Every
+// event is also a Qt signal of the same name without "On" (OnChange: change()), emitted from
+// the same place right after the std::function, so any number of listeners can follow it.
 #pragma once
 
 #include <QColor>
@@ -30,6 +32,16 @@ using TQORSpecialColorEvent
 
 using TQORKeyEvent = std::function<void(QObject* sender, QKeyEvent* event)>;
 using TQORMouseEvent = std::function<void(QObject* sender, QMouseEvent* event)>;
+
+// Stores `value` in `field` and says whether that changed it: setters emit their change signal
+// only then.
+template<class T> bool AssignChanged(T& field, const T& value)
+{
+    if (field == value)
+        return false;
+    field = value;
+    return true;
+}
 
 enum TQOROperation : std::uint8_t { opInsert = 0, opRemove = 1 };
 

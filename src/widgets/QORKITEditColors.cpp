@@ -5,40 +5,85 @@
 
 namespace qorkit {
 
-TQOREditColorSet::TQOREditColorSet(QObject* owner) : QObject(owner) { RestoreDefaults(); }
+TQOREditColorSet::TQOREditColorSet(QObject* owner) : QObject(owner)
+{
+    // The defaults as they were before anyone could listen.
+    const QSignalBlocker quiet(this);
+    RestoreDefaults();
+}
+
+namespace {
+
+// The change signal of each state's background and text colour (none: no property).
+using TColorSignal = void (TQOREditColorSet::*)();
+struct TColorSignals {
+    TColorSignal Back;
+    TColorSignal Text;
+};
+constexpr std::array<TColorSignals, QOREditStateCount> ColorSignals {{
+    {&TQOREditColorSet::normalBackChanged, &TQOREditColorSet::normalTextChanged},
+    {&TQOREditColorSet::focusedBackChanged, &TQOREditColorSet::focusedTextChanged},
+    {&TQOREditColorSet::readOnlyBackChanged, &TQOREditColorSet::readOnlyTextChanged},
+    {&TQOREditColorSet::disabledBackChanged, &TQOREditColorSet::disabledTextChanged},
+    {&TQOREditColorSet::nullBackChanged, &TQOREditColorSet::nullTextChanged},
+    {nullptr, &TQOREditColorSet::negativeTextChanged},
+    {&TQOREditColorSet::errorBackChanged, &TQOREditColorSet::errorTextChanged},
+}};
+
+} // namespace
+
+void TQOREditColorSet::Update(const TColors& colors)
+{
+    const TColors old = colors_;
+    colors_ = colors;
+    bool changed = false;
+    for (std::size_t i = 0; i < colors_.size(); ++i) {
+        const std::pair<bool, TColorSignal> parts[] = {
+            {old[i].Back != colors_[i].Back, ColorSignals[i].Back},
+            {old[i].Text != colors_[i].Text, ColorSignals[i].Text},
+        };
+        for (const auto& [differs, signal] : parts) {
+            changed = changed || differs;
+            if (differs && signal != nullptr)
+                (this->*signal)();
+        }
+    }
+    if (changed)
+        Q_EMIT Changed();
+}
 
 void TQOREditColorSet::RestoreDefaults()
 {
-    colors_ = {};
-    colors_[esReadOnly].Back = QColor(0xF0, 0xF0, 0xF0);
-    colors_[esNull].Text = QColor(0x80, 0x80, 0x80);
-    colors_[esNegative].Text = QColor(0xC0, 0x00, 0x00);
-    colors_[esError].Back = QColor(0xFF, 0xD8, 0xD8);
-    Q_EMIT Changed();
+    TColors colors {};
+    colors[esReadOnly].Back = QColor(0xF0, 0xF0, 0xF0);
+    colors[esNull].Text = QColor(0x80, 0x80, 0x80);
+    colors[esNegative].Text = QColor(0xC0, 0x00, 0x00);
+    colors[esError].Back = QColor(0xFF, 0xD8, 0xD8);
+    Update(colors);
 }
 
 void TQOREditColorSet::SetBack(TQOREditState state, const QColor& color)
 {
-    if (state >= QOREditStateCount || colors_[state].Back == color)
+    if (state >= QOREditStateCount)
         return;
-    colors_[state].Back = color;
-    Q_EMIT Changed();
+    TColors colors = colors_;
+    colors[state].Back = color;
+    Update(colors);
 }
 
 void TQOREditColorSet::SetText(TQOREditState state, const QColor& color)
 {
-    if (state >= QOREditStateCount || colors_[state].Text == color)
+    if (state >= QOREditStateCount)
         return;
-    colors_[state].Text = color;
-    Q_EMIT Changed();
+    TColors colors = colors_;
+    colors[state].Text = color;
+    Update(colors);
 }
 
 void TQOREditColorSet::Assign(const TQOREditColorSet& other)
 {
-    if (&other == this)
-        return;
-    colors_ = other.colors_;
-    Q_EMIT Changed();
+    if (&other != this)
+        Update(other.colors_);
 }
 
 TQORUICtrl::TQORUICtrl(QObject* owner) : QObject(owner), colorSet_(new TQOREditColorSet(this))
@@ -51,6 +96,7 @@ void TQORUICtrl::SetFlat(bool value)
     if (flat_ == value)
         return;
     flat_ = value;
+    Q_EMIT flatChanged(flat_);
     Q_EMIT Changed();
 }
 
@@ -59,6 +105,7 @@ void TQORUICtrl::SetAutoSelect(bool value)
     if (autoSelect_ == value)
         return;
     autoSelect_ = value;
+    Q_EMIT autoSelectChanged(autoSelect_);
     Q_EMIT Changed();
 }
 
@@ -112,7 +159,7 @@ bool TQORLook::AutoSelect(bool own) const
 }
 
 void TQORLook::Apply(QWidget* control, TQOREditState state, bool negative,
-                     const TQORSpecialColorEvent& special, QPalette::ColorRole backRole,
+                     const TQORColorHook& special, QPalette::ColorRole backRole,
                      QPalette::ColorRole textRole) const
 {
     const TQOREditColorSet* set = EffectiveColorSet();
@@ -121,7 +168,7 @@ void TQORLook::Apply(QWidget* control, TQOREditState state, bool negative,
     if (negative && state != esDisabled && set->GetText(esNegative).isValid())
         fore = set->GetText(esNegative);
     if (special)
-        special(control, back, fore);
+        special(back, fore);
     QPalette p = QApplication::palette(control);
     if (back.isValid())
         p.setColor(backRole, back);

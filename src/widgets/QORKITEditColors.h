@@ -5,6 +5,7 @@
 #pragma once
 
 #include "QORKITComponent.h"
+#include "QORKITQtEnums.h"
 
 #include <QColor>
 #include <QObject>
@@ -17,40 +18,28 @@
 
 namespace qorkit {
 
-// The states an edit can show. An invalid colour means "the style's own colour".
-enum TQOREditState : std::uint8_t {
-    esNormal = 0,
-    esFocused = 1,
-    esReadOnly = 2,
-    esDisabled = 3,
-    esNull = 4,
-    esNegative = 5, // a negative value; only its text colour is used
-    esError = 6, // the last text could not be taken over
-};
 inline constexpr int QOREditStateCount = 7;
-
-// Which of a TQORUICtrl's settings a control takes.
-enum TQORUIUsage : std::uint8_t {
-    uiOwn = 0, // none: the control's own colour set and switches
-    uiColors = 1, // the colour set
-    uiAll = 2, // the colour set, the flat look and auto-selection
-};
 
 class TQOREditColorSet : public QObject {
     Q_OBJECT
-    Q_PROPERTY(QColor NormalBack READ NormalBack WRITE SetNormalBack)
-    Q_PROPERTY(QColor NormalText READ NormalText WRITE SetNormalText)
-    Q_PROPERTY(QColor FocusedBack READ FocusedBack WRITE SetFocusedBack)
-    Q_PROPERTY(QColor FocusedText READ FocusedText WRITE SetFocusedText)
-    Q_PROPERTY(QColor ReadOnlyBack READ ReadOnlyBack WRITE SetReadOnlyBack)
-    Q_PROPERTY(QColor ReadOnlyText READ ReadOnlyText WRITE SetReadOnlyText)
-    Q_PROPERTY(QColor DisabledBack READ DisabledBack WRITE SetDisabledBack)
-    Q_PROPERTY(QColor DisabledText READ DisabledText WRITE SetDisabledText)
-    Q_PROPERTY(QColor NullBack READ NullBack WRITE SetNullBack)
-    Q_PROPERTY(QColor NullText READ NullText WRITE SetNullText)
-    Q_PROPERTY(QColor NegativeText READ NegativeText WRITE SetNegativeText)
-    Q_PROPERTY(QColor ErrorBack READ ErrorBack WRITE SetErrorBack)
-    Q_PROPERTY(QColor ErrorText READ ErrorText WRITE SetErrorText)
+    Q_PROPERTY(QColor NormalBack READ NormalBack WRITE SetNormalBack NOTIFY normalBackChanged)
+    Q_PROPERTY(QColor NormalText READ NormalText WRITE SetNormalText NOTIFY normalTextChanged)
+    Q_PROPERTY(QColor FocusedBack READ FocusedBack WRITE SetFocusedBack NOTIFY focusedBackChanged)
+    Q_PROPERTY(QColor FocusedText READ FocusedText WRITE SetFocusedText NOTIFY focusedTextChanged)
+    Q_PROPERTY(
+        QColor ReadOnlyBack READ ReadOnlyBack WRITE SetReadOnlyBack NOTIFY readOnlyBackChanged)
+    Q_PROPERTY(
+        QColor ReadOnlyText READ ReadOnlyText WRITE SetReadOnlyText NOTIFY readOnlyTextChanged)
+    Q_PROPERTY(
+        QColor DisabledBack READ DisabledBack WRITE SetDisabledBack NOTIFY disabledBackChanged)
+    Q_PROPERTY(
+        QColor DisabledText READ DisabledText WRITE SetDisabledText NOTIFY disabledTextChanged)
+    Q_PROPERTY(QColor NullBack READ NullBack WRITE SetNullBack NOTIFY nullBackChanged)
+    Q_PROPERTY(QColor NullText READ NullText WRITE SetNullText NOTIFY nullTextChanged)
+    Q_PROPERTY(
+        QColor NegativeText READ NegativeText WRITE SetNegativeText NOTIFY negativeTextChanged)
+    Q_PROPERTY(QColor ErrorBack READ ErrorBack WRITE SetErrorBack NOTIFY errorBackChanged)
+    Q_PROPERTY(QColor ErrorText READ ErrorText WRITE SetErrorText NOTIFY errorTextChanged)
 
 public:
     explicit TQOREditColorSet(QObject* owner = nullptr);
@@ -92,21 +81,38 @@ public:
     void SetErrorText(const QColor& c) { SetText(esError, c); }
 
 Q_SIGNALS:
+    // Any colour changed (once for Assign and RestoreDefaults).
     void Changed();
+    void normalBackChanged();
+    void normalTextChanged();
+    void focusedBackChanged();
+    void focusedTextChanged();
+    void readOnlyBackChanged();
+    void readOnlyTextChanged();
+    void disabledBackChanged();
+    void disabledTextChanged();
+    void nullBackChanged();
+    void nullTextChanged();
+    void negativeTextChanged();
+    void errorBackChanged();
+    void errorTextChanged();
 
 private:
     struct Pair {
         QColor Back;
         QColor Text;
     };
-    std::array<Pair, QOREditStateCount> colors_;
+    using TColors = std::array<Pair, QOREditStateCount>;
+    // Takes `colors` over and signals each colour that changed, then Changed once.
+    void Update(const TColors& colors);
+    TColors colors_;
 };
 
 class TQORUICtrl : public QObject {
     Q_OBJECT
     Q_PROPERTY(TQOREditColorSet* ColorSet READ GetColorSet)
-    Q_PROPERTY(bool Flat READ GetFlat WRITE SetFlat)
-    Q_PROPERTY(bool AutoSelect READ GetAutoSelect WRITE SetAutoSelect)
+    Q_PROPERTY(bool Flat READ GetFlat WRITE SetFlat NOTIFY flatChanged)
+    Q_PROPERTY(bool AutoSelect READ GetAutoSelect WRITE SetAutoSelect NOTIFY autoSelectChanged)
 
 public:
     explicit TQORUICtrl(QObject* owner = nullptr);
@@ -121,12 +127,17 @@ public:
 Q_SIGNALS:
     // Any setting or colour changed; followers restyle themselves.
     void Changed();
+    void flatChanged(bool flat);
+    void autoSelectChanged(bool autoSelect);
 
 private:
     TQOREditColorSet* colorSet_;
     bool flat_ = false;
     bool autoSelect_ = true;
 };
+
+// Lets a control's OnSpecialColor (and its signal) override the colours about to be used.
+using TQORColorHook = std::function<void(QColor& background, QColor& text)>;
 
 // The look of one control: its own colour set, the UI control it may follow and how far.
 // Owned by the control; calls `restyle` whenever anything that decides the look changes
@@ -148,8 +159,8 @@ public:
     bool AutoSelect(bool own) const;
     // Colours the control for `state`: background into `backRole`, text into `textRole`; a
     // negative value takes the negative text colour; OnSpecialColor has the last word.
-    void Apply(QWidget* control, TQOREditState state, bool negative,
-               const TQORSpecialColorEvent& special, QPalette::ColorRole backRole = QPalette::Base,
+    void Apply(QWidget* control, TQOREditState state, bool negative, const TQORColorHook& special,
+               QPalette::ColorRole backRole = QPalette::Base,
                QPalette::ColorRole textRole = QPalette::Text) const;
 
 private:

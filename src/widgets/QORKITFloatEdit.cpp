@@ -64,17 +64,44 @@ void TQORFloatEdit::SetExpressionEvaluator(TQORExpressionEvaluator evaluator)
     ExpressionEvaluator() = std::move(evaluator);
 }
 
-template<typename T> void TQORFloatEdit::Restyle(T& field, T value)
+template<typename T> void TQORFloatEdit::Restyle(T& field, T value, void (TQORFloatEdit::*signal)())
 {
-    if (field == value)
+    if (!AssignChanged(field, value))
         return;
-    field = value;
     Redisplay();
+    (this->*signal)();
+}
+
+template<typename T> void TQORFloatEdit::Store(T& field, T value, void (TQORFloatEdit::*signal)())
+{
+    if (AssignChanged(field, value))
+        (this->*signal)();
 }
 
 void TQORFloatEdit::SetDecimalPlaces(std::uint8_t value)
 {
-    Restyle(decimals_, std::min(value, MaxDecimals));
+    Restyle(decimals_, std::min(value, MaxDecimals), &TQORFloatEdit::decimalPlacesChanged);
+}
+
+void TQORFloatEdit::SetFullAccuracy(bool value)
+{
+    Store(fullAccuracy_, value, &TQORFloatEdit::fullAccuracyChanged);
+}
+void TQORFloatEdit::SetAllowExpressions(bool value)
+{
+    Store(allowExpressions_, value, &TQORFloatEdit::allowExpressionsChanged);
+}
+void TQORFloatEdit::SetAllowNegInput(bool value)
+{
+    Store(allowNegInput_, value, &TQORFloatEdit::allowNegInputChanged);
+}
+void TQORFloatEdit::SetBoundLower(Extended value)
+{
+    Store(boundLower_, value, &TQORFloatEdit::boundLowerChanged);
+}
+void TQORFloatEdit::SetBoundUpper(Extended value)
+{
+    Store(boundUpper_, value, &TQORFloatEdit::boundUpperChanged);
 }
 
 void TQORFloatEdit::SetDecimalPlacesValue(int value)
@@ -82,29 +109,51 @@ void TQORFloatEdit::SetDecimalPlacesValue(int value)
     SetDecimalPlaces(static_cast<std::uint8_t>(std::clamp(value, 0, int {MaxDecimals})));
 }
 
-void TQORFloatEdit::SetFullAccuracyEdit(bool value) { Restyle(fullAccuracyEdit_, value); }
-void TQORFloatEdit::SetTrimTrailingZeroes(bool value) { Restyle(trimTrailingZeroes_, value); }
-void TQORFloatEdit::SetBlankWhenZero(bool value) { Restyle(blankWhenZero_, value); }
+void TQORFloatEdit::SetFullAccuracyEdit(bool value)
+{
+    Restyle(fullAccuracyEdit_, value, &TQORFloatEdit::fullAccuracyEditChanged);
+}
+void TQORFloatEdit::SetTrimTrailingZeroes(bool value)
+{
+    Restyle(trimTrailingZeroes_, value, &TQORFloatEdit::trimTrailingZeroesChanged);
+}
+void TQORFloatEdit::SetBlankWhenZero(bool value)
+{
+    Restyle(blankWhenZero_, value, &TQORFloatEdit::blankWhenZeroChanged);
+}
 void TQORFloatEdit::SetThousandSeparators(TQORThousandSeparators value)
 {
     if (value <= tsApostrophe)
-        Restyle(thousandSeparators_, value);
-}
-void TQORFloatEdit::SetThousandSeparatorsValue(int value)
-{
-    if (value >= tsLocale && value <= tsApostrophe)
-        SetThousandSeparators(static_cast<TQORThousandSeparators>(value));
+        Restyle(thousandSeparators_, value, &TQORFloatEdit::thousandSeparatorsChanged);
 }
 void TQORFloatEdit::SetShowThousandSeparators(bool value)
 {
-    Restyle(showThousandSeparators_, value);
+    Restyle(showThousandSeparators_, value, &TQORFloatEdit::showThousandSeparatorsChanged);
 }
-void TQORFloatEdit::SetLakhFormatting(bool value) { Restyle(lakhFormatting_, value); }
-void TQORFloatEdit::SetZeroPad(bool value) { Restyle(zeroPad_, value); }
-void TQORFloatEdit::SetNegAsBrackets(bool value) { Restyle(negAsBrackets_, value); }
-void TQORFloatEdit::SetCustomDecimal(char value) { Restyle(customDecimal_, value); }
-void TQORFloatEdit::SetCustomThousands(char value) { Restyle(customThousands_, value); }
-void TQORFloatEdit::SetCustomSeparators(bool value) { Restyle(customSeparators_, value); }
+void TQORFloatEdit::SetLakhFormatting(bool value)
+{
+    Restyle(lakhFormatting_, value, &TQORFloatEdit::lakhFormattingChanged);
+}
+void TQORFloatEdit::SetZeroPad(bool value)
+{
+    Restyle(zeroPad_, value, &TQORFloatEdit::zeroPadChanged);
+}
+void TQORFloatEdit::SetNegAsBrackets(bool value)
+{
+    Restyle(negAsBrackets_, value, &TQORFloatEdit::negAsBracketsChanged);
+}
+void TQORFloatEdit::SetCustomDecimal(char value)
+{
+    Restyle(customDecimal_, value, &TQORFloatEdit::customDecimalChanged);
+}
+void TQORFloatEdit::SetCustomThousands(char value)
+{
+    Restyle(customThousands_, value, &TQORFloatEdit::customThousandsChanged);
+}
+void TQORFloatEdit::SetCustomSeparators(bool value)
+{
+    Restyle(customSeparators_, value, &TQORFloatEdit::customSeparatorsChanged);
+}
 
 char TQORFloatEdit::DecimalChar() const
 {
@@ -288,8 +337,10 @@ void TQORFloatEdit::StoreValue(Extended value)
     value_ = value;
     ClearNullQuietly();
     Redisplay();
-    if (changed)
+    if (changed) {
+        Q_EMIT asFloatChanged();
         Change();
+    }
     if (SignOf(value) != oldSign)
         DoSignChange(SignOf(value));
 }

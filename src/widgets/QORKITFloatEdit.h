@@ -22,6 +22,7 @@
 #pragma once
 
 #include "QORKITBaseEdit.h"
+#include "QORKITQtEnums.h"
 #include "QORKITResource.h"
 #include "QORKITTypes.h"
 
@@ -40,39 +41,46 @@ namespace qorkit {
 QORKIT_FLOATEDIT_TEXTS(QORKIT_DECLARE_TEXT)
 std::span<const TResourceText> FloatEditTexts();
 
-// Grouping character when CustomSeparators is off.
-enum TQORThousandSeparators : std::uint8_t {
-    tsLocale = 0, // the locale's thousands separator
-    tsSpace = 1, // a blank: 1 234 567
-    tsApostrophe = 2, // 1'234'567
-};
-
 // Evaluates an expression typed into an edit that allows expressions; throws a
 // qorkit::Exception for text it cannot evaluate.
 using TQORExpressionEvaluator = std::function<Extended(const std::string& expression)>;
 
 class TQORFloatEdit : public TQORStartEdit {
     Q_OBJECT
-    Q_PROPERTY(double AsFloat READ GetAsDouble WRITE SetAsDouble)
-    Q_PROPERTY(int DecimalPlaces READ GetDecimalPlacesValue WRITE SetDecimalPlacesValue)
-    Q_PROPERTY(bool FullAccuracy READ GetFullAccuracy WRITE SetFullAccuracy)
-    Q_PROPERTY(bool FullAccuracyEdit READ GetFullAccuracyEdit WRITE SetFullAccuracyEdit)
-    Q_PROPERTY(bool TrimTrailingZeroes READ GetTrimTrailingZeroes WRITE SetTrimTrailingZeroes)
-    Q_PROPERTY(bool AllowExpressions READ GetAllowExpressions WRITE SetAllowExpressions)
-    Q_PROPERTY(bool BlankWhenZero READ GetBlankWhenZero WRITE SetBlankWhenZero)
+    Q_PROPERTY(double AsFloat READ GetAsDouble WRITE SetAsDouble NOTIFY asFloatChanged)
+    Q_PROPERTY(int DecimalPlaces READ GetDecimalPlacesValue WRITE SetDecimalPlacesValue NOTIFY
+                   decimalPlacesChanged)
     Q_PROPERTY(
-        int ThousandSeparators READ GetThousandSeparatorsValue WRITE SetThousandSeparatorsValue)
+        bool FullAccuracy READ GetFullAccuracy WRITE SetFullAccuracy NOTIFY fullAccuracyChanged)
+    Q_PROPERTY(bool FullAccuracyEdit READ GetFullAccuracyEdit WRITE SetFullAccuracyEdit NOTIFY
+                   fullAccuracyEditChanged)
+    Q_PROPERTY(bool TrimTrailingZeroes READ GetTrimTrailingZeroes WRITE SetTrimTrailingZeroes NOTIFY
+                   trimTrailingZeroesChanged)
+    Q_PROPERTY(bool AllowExpressions READ GetAllowExpressions WRITE SetAllowExpressions NOTIFY
+                   allowExpressionsChanged)
     Q_PROPERTY(
-        bool ShowThousandSeparators READ GetShowThousandSeparators WRITE SetShowThousandSeparators)
-    Q_PROPERTY(bool LakhFormatting READ GetLakhFormatting WRITE SetLakhFormatting)
-    Q_PROPERTY(bool ZeroPad READ GetZeroPad WRITE SetZeroPad)
-    Q_PROPERTY(bool AllowNegInput READ GetAllowNegInput WRITE SetAllowNegInput)
-    Q_PROPERTY(bool NegAsBrackets READ GetNegAsBrackets WRITE SetNegAsBrackets)
-    Q_PROPERTY(QChar CustomDecimal READ GetCustomDecimalChar WRITE SetCustomDecimalChar)
-    Q_PROPERTY(QChar CustomThousands READ GetCustomThousandsChar WRITE SetCustomThousandsChar)
-    Q_PROPERTY(bool CustomSeparators READ GetCustomSeparators WRITE SetCustomSeparators)
-    Q_PROPERTY(double BoundLower READ GetBoundLowerDouble WRITE SetBoundLowerDouble)
-    Q_PROPERTY(double BoundUpper READ GetBoundUpperDouble WRITE SetBoundUpperDouble)
+        bool BlankWhenZero READ GetBlankWhenZero WRITE SetBlankWhenZero NOTIFY blankWhenZeroChanged)
+    Q_PROPERTY(qorkit::TQORThousandSeparators ThousandSeparators READ GetThousandSeparators WRITE
+                   SetThousandSeparators NOTIFY thousandSeparatorsChanged)
+    Q_PROPERTY(bool ShowThousandSeparators READ GetShowThousandSeparators WRITE
+                   SetShowThousandSeparators NOTIFY showThousandSeparatorsChanged)
+    Q_PROPERTY(bool LakhFormatting READ GetLakhFormatting WRITE SetLakhFormatting NOTIFY
+                   lakhFormattingChanged)
+    Q_PROPERTY(bool ZeroPad READ GetZeroPad WRITE SetZeroPad NOTIFY zeroPadChanged)
+    Q_PROPERTY(
+        bool AllowNegInput READ GetAllowNegInput WRITE SetAllowNegInput NOTIFY allowNegInputChanged)
+    Q_PROPERTY(
+        bool NegAsBrackets READ GetNegAsBrackets WRITE SetNegAsBrackets NOTIFY negAsBracketsChanged)
+    Q_PROPERTY(QChar CustomDecimal READ GetCustomDecimalChar WRITE SetCustomDecimalChar NOTIFY
+                   customDecimalChanged)
+    Q_PROPERTY(QChar CustomThousands READ GetCustomThousandsChar WRITE SetCustomThousandsChar NOTIFY
+                   customThousandsChanged)
+    Q_PROPERTY(bool CustomSeparators READ GetCustomSeparators WRITE SetCustomSeparators NOTIFY
+                   customSeparatorsChanged)
+    Q_PROPERTY(double BoundLower READ GetBoundLowerDouble WRITE SetBoundLowerDouble NOTIFY
+                   boundLowerChanged)
+    Q_PROPERTY(double BoundUpper READ GetBoundUpperDouble WRITE SetBoundUpperDouble NOTIFY
+                   boundUpperChanged)
 
 public:
     explicit TQORFloatEdit(QWidget* parent = nullptr);
@@ -90,13 +98,13 @@ public:
     void SetDecimalPlaces(std::uint8_t value);
     static constexpr std::uint8_t MaxDecimals = 18;
     bool GetFullAccuracy() const { return fullAccuracy_; }
-    void SetFullAccuracy(bool value) { fullAccuracy_ = value; }
+    void SetFullAccuracy(bool value);
     bool GetFullAccuracyEdit() const { return fullAccuracyEdit_; }
     void SetFullAccuracyEdit(bool value);
     bool GetTrimTrailingZeroes() const { return trimTrailingZeroes_; }
     void SetTrimTrailingZeroes(bool value);
     bool GetAllowExpressions() const { return allowExpressions_; }
-    void SetAllowExpressions(bool value) { allowExpressions_ = value; }
+    void SetAllowExpressions(bool value);
     bool GetBlankWhenZero() const { return blankWhenZero_; }
     void SetBlankWhenZero(bool value);
     TQORThousandSeparators GetThousandSeparators() const { return thousandSeparators_; }
@@ -108,7 +116,7 @@ public:
     bool GetZeroPad() const { return zeroPad_; }
     void SetZeroPad(bool value);
     bool GetAllowNegInput() const { return allowNegInput_; }
-    void SetAllowNegInput(bool value) { allowNegInput_ = value; }
+    void SetAllowNegInput(bool value);
     bool GetNegAsBrackets() const { return negAsBrackets_; }
     void SetNegAsBrackets(bool value);
     // Default: the locale's separators when the edit was made.
@@ -119,9 +127,9 @@ public:
     bool GetCustomSeparators() const { return customSeparators_; }
     void SetCustomSeparators(bool value);
     Extended GetBoundLower() const { return boundLower_; }
-    void SetBoundLower(Extended value) { boundLower_ = value; }
+    void SetBoundLower(Extended value);
     Extended GetBoundUpper() const { return boundUpper_; }
-    void SetBoundUpper(Extended value) { boundUpper_ = value; }
+    void SetBoundUpper(Extended value);
     bool IsInBounds(Extended value) const;
 
     // The separators in force at this moment.
@@ -139,6 +147,26 @@ public:
     // expression evaluator in radians. An empty one turns expressions off everywhere.
     static void SetExpressionEvaluator(TQORExpressionEvaluator evaluator);
 
+Q_SIGNALS:
+    void asFloatChanged();
+    void decimalPlacesChanged();
+    void fullAccuracyChanged();
+    void fullAccuracyEditChanged();
+    void trimTrailingZeroesChanged();
+    void allowExpressionsChanged();
+    void blankWhenZeroChanged();
+    void thousandSeparatorsChanged();
+    void showThousandSeparatorsChanged();
+    void lakhFormattingChanged();
+    void zeroPadChanged();
+    void allowNegInputChanged();
+    void negAsBracketsChanged();
+    void customDecimalChanged();
+    void customThousandsChanged();
+    void customSeparatorsChanged();
+    void boundLowerChanged();
+    void boundUpperChanged();
+
 protected:
     QString DisplayText() const override;
     QString EditText() const override;
@@ -152,18 +180,18 @@ private:
     void SetDecimalPlacesValue(int value);
     double GetAsDouble() { return static_cast<double>(GetValue()); }
     void SetAsDouble(double value) { SetValue(value); }
-    int GetThousandSeparatorsValue() const { return thousandSeparators_; }
-    void SetThousandSeparatorsValue(int value);
     QChar GetCustomDecimalChar() const { return QLatin1Char(customDecimal_); }
     void SetCustomDecimalChar(QChar value) { SetCustomDecimal(value.toLatin1()); }
     QChar GetCustomThousandsChar() const { return QLatin1Char(customThousands_); }
     void SetCustomThousandsChar(QChar value) { SetCustomThousands(value.toLatin1()); }
     double GetBoundLowerDouble() const { return static_cast<double>(boundLower_); }
-    void SetBoundLowerDouble(double value) { boundLower_ = value; }
+    void SetBoundLowerDouble(double value) { SetBoundLower(value); }
     double GetBoundUpperDouble() const { return static_cast<double>(boundUpper_); }
-    void SetBoundUpperDouble(double value) { boundUpper_ = value; }
-    // Sets a display setting and shows the value in the new form.
-    template<typename T> void Restyle(T& field, T value);
+    void SetBoundUpperDouble(double value) { SetBoundUpper(value); }
+    // Sets a display setting, shows the value in the new form and signals the change.
+    template<typename T> void Restyle(T& field, T value, void (TQORFloatEdit::*signal)());
+    // Sets a setting that does not change the display, and signals the change.
+    template<typename T> void Store(T& field, T value, void (TQORFloatEdit::*signal)());
     QString FormatPlain(Extended value, bool forEditing) const;
     Extended Evaluate(const QString& text) const;
     void StoreValue(Extended value);

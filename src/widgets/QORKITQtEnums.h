@@ -61,4 +61,58 @@ Q_ENUM_NS(TQORConvType)
 // ---- Enumerations of the Qt layer --------------------------------------------------------------
 // (Declared here in full: a header with properties of these types includes this one.)
 
+// Grouping character of a float edit when CustomSeparators is off.
+enum TQORThousandSeparators : std::uint8_t {
+    tsLocale = 0, // the locale's thousands separator
+    tsSpace = 1, // a blank: 1 234 567
+    tsApostrophe = 2, // 1'234'567
+};
+Q_ENUM_NS(TQORThousandSeparators)
+
+// The states an edit can show. An invalid colour means "the style's own colour".
+enum TQOREditState : std::uint8_t {
+    esNormal = 0,
+    esFocused = 1,
+    esReadOnly = 2,
+    esDisabled = 3,
+    esNull = 4,
+    esNegative = 5, // a negative value; only its text colour is used
+    esError = 6, // the last text could not be taken over
+};
+Q_ENUM_NS(TQOREditState)
+
+// Which of a TQORUICtrl's settings a control takes.
+enum TQORUIUsage : std::uint8_t {
+    uiOwn = 0, // none: the control's own colour set and switches
+    uiColors = 1, // the colour set
+    uiAll = 2, // the colour set, the flat look and auto-selection
+};
+Q_ENUM_NS(TQORUIUsage)
+
+// Where a spin edit's arrows sit.
+enum TQORSpinArrows : std::uint8_t {
+    saUpDown = 0, // stacked at the right edge
+    saLeftRight = 1, // side by side at the right edge, "down" on the left
+    saNone = 2, // hidden: the keyboard still steps
+};
+Q_ENUM_NS(TQORSpinArrows)
+
+enum TQORComboStyle : std::uint8_t {
+    csDropDown = 0, // the text can be typed
+    csDropDownList = 1, // only the list's items can be chosen
+};
+Q_ENUM_NS(TQORComboStyle)
+
+enum TQORBevel : std::uint8_t { bvNone = 0, bvLowered = 1, bvRaised = 2 };
+Q_ENUM_NS(TQORBevel)
+
+// Where a dialog opens when it is not placed explicitly.
+enum TQORFormPosition : std::uint8_t {
+    poDesigned = 0, // where the form was laid out (its present left and top)
+    poDefault = 1, // where the window system puts new windows
+    poScreenCenter = 2, // centred on the screen
+    poMainFormCenter = 3, // centred on the window that opened it (else the active window)
+};
+Q_ENUM_NS(TQORFormPosition)
+
 } // namespace qorkit

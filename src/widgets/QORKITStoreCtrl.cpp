@@ -47,20 +47,27 @@ TQORStoreCtrl::~TQORStoreCtrl()
 
 void TQORStoreCtrl::SetRegIniType(TQORRegIniType value)
 {
-    if (value > ritIniFile)
-        return;
-    regIniType_ = value;
+    if (value <= ritIniFile && AssignChanged(regIniType_, value))
+        Q_EMIT regIniTypeChanged(value);
 }
 
-void TQORStoreCtrl::SetRegIniTypeValue(int value)
+void TQORStoreCtrl::SetRegPath(const QString& value)
 {
-    if (value >= ritNone && value <= ritIniFile)
-        SetRegIniType(static_cast<TQORRegIniType>(value));
+    if (AssignChanged(regPath_, value))
+        Q_EMIT regPathChanged(value);
 }
 
-void TQORStoreCtrl::SetRegPath(const QString& value) { regPath_ = value; }
-void TQORStoreCtrl::SetIniFileName(const QString& value) { iniFileName_ = value; }
-void TQORStoreCtrl::SetSection(const QString& value) { section_ = value; }
+void TQORStoreCtrl::SetIniFileName(const QString& value)
+{
+    if (AssignChanged(iniFileName_, value))
+        Q_EMIT iniFileNameChanged(value);
+}
+
+void TQORStoreCtrl::SetSection(const QString& value)
+{
+    if (AssignChanged(section_, value))
+        Q_EMIT sectionChanged(value);
+}
 
 std::unique_ptr<QSettings> TQORStoreCtrl::CreateSettings() const
 {

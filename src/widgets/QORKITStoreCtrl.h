@@ -16,6 +16,7 @@
 #pragma once
 
 #include "QORKITComponent.h"
+#include "QORKITQtEnums.h"
 #include "QORKITTypes.h"
 
 #include <QObject>
@@ -33,10 +34,12 @@ inline constexpr char QORDefaultStoreSection[] = "Settings";
 
 class TQORStoreCtrl : public QObject {
     Q_OBJECT
-    Q_PROPERTY(int RegIniType READ GetRegIniTypeValue WRITE SetRegIniTypeValue)
-    Q_PROPERTY(QString RegPath READ GetRegPath WRITE SetRegPath)
-    Q_PROPERTY(QString IniFileName READ GetIniFileName WRITE SetIniFileName)
-    Q_PROPERTY(QString Section READ GetSection WRITE SetSection)
+    Q_PROPERTY(qorkit::TQORRegIniType RegIniType READ GetRegIniType WRITE SetRegIniType NOTIFY
+                   regIniTypeChanged)
+    Q_PROPERTY(QString RegPath READ GetRegPath WRITE SetRegPath NOTIFY regPathChanged)
+    Q_PROPERTY(
+        QString IniFileName READ GetIniFileName WRITE SetIniFileName NOTIFY iniFileNameChanged)
+    Q_PROPERTY(QString Section READ GetSection WRITE SetSection NOTIFY sectionChanged)
 
 public:
     explicit TQORStoreCtrl(QObject* owner = nullptr);
@@ -90,9 +93,13 @@ public:
     void RemoveFromNotifyList(QObject* component);
     bool IsInNotifyList(const QObject* component) const;
 
+Q_SIGNALS:
+    void regIniTypeChanged(qorkit::TQORRegIniType regIniType);
+    void regPathChanged(const QString& regPath);
+    void iniFileNameChanged(const QString& iniFileName);
+    void sectionChanged(const QString& section);
+
 private:
-    int GetRegIniTypeValue() const { return regIniType_; }
-    void SetRegIniTypeValue(int value);
     std::unique_ptr<QSettings> CreateSettings() const;
     void EnterTopSection();
     // Moves the open session onto a working copy of its file (once); false when writing is
