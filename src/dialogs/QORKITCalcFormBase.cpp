@@ -143,9 +143,47 @@ QToolButton* TQORCalcFormBase::Key(const char* name) const
     return KeyPanel->findChild<QToolButton*>(QString::fromLatin1(name), Qt::FindDirectChildrenOnly);
 }
 
+QToolButton* TQORCalcFormBase::TableKey(const char* name) const
+{
+    QToolButton* button = Key(name);
+    if (button == nullptr) {
+        const QString missing = QString::fromLatin1(name);
+        if (!unknownKeys_.contains(missing))
+            unknownKeys_ << missing;
+        qWarning("%s: no key named %s", metaObject()->className(), name);
+        Q_ASSERT_X(false, "TQORCalcFormBase::TableKey", "a key table names a key the form lacks");
+    }
+    return button;
+}
+
+QStringList TQORCalcFormBase::UnknownKeyNames() const
+{
+    auto charTables = CharKeys();
+    charTables.insert(charTables.begin(), CommonCharKeys);
+    for (const auto& table : charTables) {
+        for (const auto& key : table) {
+            for (const char* name : {key.Button, key.Then}) {
+                if (name != nullptr)
+                    TableKey(name);
+            }
+        }
+    }
+    for (const auto table : {std::span<const TQORKeyDownDef>(CommonKeyDowns), KeyDowns()}) {
+        for (const auto& def : table) {
+            if (def.Button != nullptr)
+                TableKey(def.Button);
+        }
+    }
+    return unknownKeys_;
+}
+
 void TQORCalcFormBase::UpdateLanguage()
 {
-    setWindowTitle(ToQ(rsCalculator()));
+    // A caption the host set stays; the form's own one follows the language.
+    const bool ownTitle = windowTitle().isEmpty() || windowTitle() == defaultTitle_;
+    defaultTitle_ = ToQ(rsCalculator());
+    if (ownTitle)
+        setWindowTitle(defaultTitle_);
     for (const auto& key : keyTexts_) {
         if (key.Look.Caption != nullptr)
             key.Button->setText(ToQ(key.Look.Caption()));
@@ -163,7 +201,7 @@ void TQORCalcFormBase::PlaceKeys(std::span<const TQORKeyPlace> places, int rows)
     for (auto* button : KeyPanel->findChildren<QToolButton*>(Qt::FindDirectChildrenOnly))
         button->hide();
     for (const auto& place : places) {
-        if (QToolButton* button = Key(place.Name)) {
+        if (QToolButton* button = TableKey(place.Name)) {
             button->setGeometry(place.Col * w, place.Row * h, place.Span * w, h);
             button->show();
         }
@@ -199,7 +237,7 @@ void TQORCalcFormBase::Click(const char* name)
 {
     if (name == nullptr)
         return;
-    if (QToolButton* button = Key(name))
+    if (QToolButton* button = TableKey(name))
         button->click();
 }
 
@@ -373,9 +411,11 @@ void TQORCalcFormBase::showEvent(QShowEvent* event)
         placed_ = true;
         QPoint topLeft = pos();
         QRect area;
-        if (position_ == poMainFormCenter && QApplication::activeWindow() != nullptr
-            && QApplication::activeWindow() != this) {
-            area = QApplication::activeWindow()->frameGeometry();
+        // The window that opened the form: its parent's, else the active one.
+        QWidget* host
+            = parentWidget() != nullptr ? parentWidget()->window() : QApplication::activeWindow();
+        if (position_ == poMainFormCenter && host != nullptr && host != this) {
+            area = host->frameGeometry();
         } else if (position_ == poScreenCenter || position_ == poMainFormCenter) {
             QScreen* screen = QGuiApplication::primaryScreen();
             area = screen != nullptr ? screen->availableGeometry() : QRect();
@@ -390,6 +430,13 @@ void TQORCalcFormBase::showEvent(QShowEvent* event)
     }
     QDialog::showEvent(event);
     KeyPanel->setFocus(Qt::OtherFocusReason);
+}
+
+void TQORCalcFormBase::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        UpdateLanguage();
 }
 
 // ---- Components ------------------------------------------------------------------------------
@@ -409,11 +456,42 @@ void TQORCalcComponent::SetStoreCtrl(TQORStoreCtrl* value)
 {
     if (value == storeCtrl_.data())
         return;
-    if (storeCtrl_)
+    const TQORRegIniType oldRegIni = GetRegIni();
+    if (storeCtrl_) {
         storeCtrl_->RemoveFromNotifyList(this);
+        disconnect(storeCtrl_, nullptr, this, nullptr);
+    }
     storeCtrl_ = value;
-    if (storeCtrl_)
+    if (GetRegIni() != oldRegIni)
+        Q_EMIT regIniChanged();
+    if (storeCtrl_) {
         storeCtrl_->AddToNotifyList(this);
+        connect(storeCtrl_, &TQORStoreCtrl::regIniTypeChanged, this,
+                &TQORCalcComponent::regIniChanged);
+    }
+    Q_EMIT storeCtrlChanged();
+}
+
+void TQORCalcComponent::SetUICtrl(TQORUICtrl* value)
+{
+    if (value == uiCtrl_.data())
+        return;
+    uiCtrl_ = value;
+    Q_EMIT uiCtrlChanged();
+}
+
+QWidget* TQORCalcComponent::OwnerWindow() const
+{
+    for (QObject* owner = parent(); owner != nullptr; owner = owner->parent()) {
+        if (owner->isWidgetType())
+            return static_cast<QWidget*>(owner)->window();
+    }
+    return QORHostWindow(nullptr);
+}
+
+QWidget* QORHostWindow(QWidget* parent)
+{
+    return parent != nullptr ? parent->window() : QApplication::activeWindow();
 }
 
 void TQORCalcComponent::Notification(QObject* component, TQOROperation operation)
@@ -421,9 +499,9 @@ void TQORCalcComponent::Notification(QObject* component, TQOROperation operation
     if (operation != opRemove)
         return;
     if (component == storeCtrl_.data())
-        storeCtrl_ = nullptr;
+        SetStoreCtrl(nullptr);
     if (component == uiCtrl_.data())
-        uiCtrl_ = nullptr;
+        SetUICtrl(nullptr);
 }
 
 void TQORCalcComponent::SetHiColorOnly(bool value)
@@ -431,33 +509,45 @@ void TQORCalcComponent::SetHiColorOnly(bool value)
     if (value == hiColorOnly_)
         return;
     hiColorOnly_ = value;
+    Q_EMIT hiColorOnlyChanged();
     NotifyGlyphChange();
 }
 
-void TQORCalcComponent::SetGlyph(QIcon& field, const QIcon& value)
+void TQORCalcComponent::SetGlyph(QIcon& field, const QIcon& value,
+                                 void (TQORCalcComponent::*signal)())
 {
     if (field.cacheKey() == value.cacheKey())
         return;
     field = value;
+    (this->*signal)();
     NotifyGlyphChange();
 }
 
-void TQORCalcComponent::SetCalcEditGlyph(const QIcon& value) { SetGlyph(calcEditGlyph_, value); }
-void TQORCalcComponent::SetCloseGlyph(const QIcon& value) { SetGlyph(closeGlyph_, value); }
-void TQORCalcComponent::SetCancelGlyph(const QIcon& value) { SetGlyph(cancelGlyph_, value); }
-void TQORCalcComponent::SetCopyGlyph(const QIcon& value) { SetGlyph(copyGlyph_, value); }
-void TQORCalcComponent::SetPasteGlyph(const QIcon& value) { SetGlyph(pasteGlyph_, value); }
+void TQORCalcComponent::SetCalcEditGlyph(const QIcon& value)
+{
+    SetGlyph(calcEditGlyph_, value, &TQORCalcComponent::calcEditGlyphChanged);
+}
+void TQORCalcComponent::SetCloseGlyph(const QIcon& value)
+{
+    SetGlyph(closeGlyph_, value, &TQORCalcComponent::closeGlyphChanged);
+}
+void TQORCalcComponent::SetCancelGlyph(const QIcon& value)
+{
+    SetGlyph(cancelGlyph_, value, &TQORCalcComponent::cancelGlyphChanged);
+}
+void TQORCalcComponent::SetCopyGlyph(const QIcon& value)
+{
+    SetGlyph(copyGlyph_, value, &TQORCalcComponent::copyGlyphChanged);
+}
+void TQORCalcComponent::SetPasteGlyph(const QIcon& value)
+{
+    SetGlyph(pasteGlyph_, value, &TQORCalcComponent::pasteGlyphChanged);
+}
 
 void TQORCalcComponent::SetPosition(TQORFormPosition value)
 {
     if (value <= poMainFormCenter)
-        position_ = value;
-}
-
-void TQORCalcComponent::SetPositionValue(int value)
-{
-    if (value >= poDesigned && value <= poMainFormCenter)
-        SetPosition(static_cast<TQORFormPosition>(value));
+        Store(position_, value, &TQORCalcComponent::positionChanged);
 }
 
 TQORRegIniType TQORCalcComponent::GetRegIni() const
@@ -467,14 +557,9 @@ TQORRegIniType TQORCalcComponent::GetRegIni() const
 
 void TQORCalcComponent::SetRegIni(TQORRegIniType value)
 {
+    // The store signals the change, and the component passes it on.
     if (storeCtrl_)
         storeCtrl_->SetRegIniType(value);
-}
-
-void TQORCalcComponent::SetRegIniValue(int value)
-{
-    if (value >= ritNone && value <= ritIniFile)
-        SetRegIni(static_cast<TQORRegIniType>(value));
 }
 
 void TQORCalcComponent::AddToNotifyGlyphChanges(QObject* client)
@@ -528,7 +613,9 @@ void TQORCalcComponent::TransferStore(bool save)
             }
             const QVariant current = property(item.Property);
             QVariant value;
-            switch (current.typeId()) {
+            // Enumerations are kept as their numbers.
+            const bool enumeration = (current.metaType().flags() & QMetaType::IsEnumeration) != 0;
+            switch (enumeration ? QMetaType::Int : current.typeId()) {
             case QMetaType::Bool:
                 if (save)
                     store->WriteBoolean(key, current.toBool());
@@ -564,6 +651,7 @@ void TQORCalcComponent::TransferStore(bool save)
 bool TQORCalcComponent::RunDialog()
 {
     std::unique_ptr<TQORCalcFormBase> form = CreateForm();
+    // CreateForm gives the form OwnerWindow() as its parent: the dialog is that window's child.
     form->SetExitHint(exitHint_);
     if (usePosition_) {
         form->Place(poDesigned);

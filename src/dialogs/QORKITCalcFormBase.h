@@ -16,6 +16,7 @@
 #include "QORKITComponent.h"
 #include "QORKITEditColors.h"
 #include "QORKITGlyphs.h"
+#include "QORKITQtEnums.h"
 #include "QORKITStoreCtrl.h"
 #include "QORKITTypes.h"
 #include "QORKIT_RS_Calc.h"
@@ -159,11 +160,17 @@ public:
     int GetHelpContext() const { return helpContext_; }
     void SetHelpContext(int value) { helpContext_ = value; }
 
-    // Texts of every key and the caption from the resource strings.
-    virtual void UpdateLanguage();
     // The engine's last error text.
     virtual std::string GetLastError() const = 0;
 
+    // Names in the form's key tables (layout, typed characters, shortcut keys) that name no key
+    // of the form. Empty for a sound form; an unknown name also asserts in debug builds.
+    QStringList UnknownKeyNames() const;
+
+public Q_SLOTS:
+    // Texts of every key and the caption from the resource strings (also done on
+    // QEvent::LanguageChange while the form exists; a caption the host set is kept).
+    virtual void UpdateLanguage();
     void CopyClick();
     void PasteClick();
     void ExitClick();
@@ -191,7 +198,11 @@ protected:
     }
 
     QToolButton* NewKey(const TQORKeyLook& look);
+    // The key of that name, or null.
     QToolButton* Key(const char* name) const;
+    // The key of a name from one of the form's tables: a name that names no key is a fault of
+    // the table; it asserts in debug builds and is reported by UnknownKeyNames().
+    QToolButton* TableKey(const char* name) const;
     // Lays the keys out in the grid and sizes the key panel; keys missing from `places` are
     // hidden.
     void PlaceKeys(std::span<const TQORKeyPlace> places, int rows);
@@ -217,6 +228,7 @@ protected:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
     const TQORFormGeometry geometry_;
 
@@ -231,6 +243,8 @@ private:
         TQORKeyLook Look;
     };
     std::vector<KeyText> keyTexts_;
+    mutable QStringList unknownKeys_; // names TableKey could not find
+    QString defaultTitle_; // the caption UpdateLanguage gave
     bool cancelled_ = false;
     bool flat_ = false;
     bool stayOnTop_ = false;
@@ -336,53 +350,76 @@ struct TQORStoreKey {
 
 class TQORCalcComponent : public QObject, public IQORNotifyClient {
     Q_OBJECT
-    Q_PROPERTY(TQORUICtrl* UICtrl READ GetUICtrl WRITE SetUICtrl)
+    Q_PROPERTY(TQORUICtrl* UICtrl READ GetUICtrl WRITE SetUICtrl NOTIFY uiCtrlChanged)
     Q_PROPERTY(TQOREditColorSet* ColorSet READ GetColorSet)
-    Q_PROPERTY(TQORStoreCtrl* StoreCtrl READ GetStoreCtrl WRITE SetStoreCtrl)
-    Q_PROPERTY(QString StoreSection READ GetStoreSection WRITE SetStoreSection)
-    Q_PROPERTY(bool Precedence READ GetPrecedence WRITE SetPrecedence)
-    Q_PROPERTY(bool PrefixFunctions READ GetPrefixFunctions WRITE SetPrefixFunctions)
-    Q_PROPERTY(bool Flat READ GetFlat WRITE SetFlat)
-    Q_PROPERTY(QString DispFont READ GetDispFont WRITE SetDispFont)
-    Q_PROPERTY(bool LoadMemoryAtStart READ GetLoadMemoryAtStart WRITE SetLoadMemoryAtStart)
-    Q_PROPERTY(QString Title READ GetTitle WRITE SetTitle)
-    Q_PROPERTY(bool HiColorOnly READ GetHiColorOnly WRITE SetHiColorOnly)
-    Q_PROPERTY(QIcon CalcEditGlyph READ GetCalcEditGlyph WRITE SetCalcEditGlyph)
-    Q_PROPERTY(QIcon CloseGlyph READ GetCloseGlyph WRITE SetCloseGlyph)
-    Q_PROPERTY(QIcon CancelGlyph READ GetCancelGlyph WRITE SetCancelGlyph)
-    Q_PROPERTY(QIcon CopyGlyph READ GetCopyGlyph WRITE SetCopyGlyph)
-    Q_PROPERTY(QIcon PasteGlyph READ GetPasteGlyph WRITE SetPasteGlyph)
-    Q_PROPERTY(QColor ColorBackground READ GetColorBackground WRITE SetColorBackground)
-    Q_PROPERTY(QString ExitHint READ GetExitHint WRITE SetExitHint)
-    Q_PROPERTY(int Position READ GetPositionValue WRITE SetPositionValue)
-    Q_PROPERTY(bool StayOnTop READ GetStayOnTop WRITE SetStayOnTop)
-    Q_PROPERTY(QString Version READ GetVersion WRITE SetVersion STORED false)
-    Q_PROPERTY(int RegIni READ GetRegIniValue WRITE SetRegIniValue STORED false)
-    Q_PROPERTY(bool FlatSpin READ GetFlatSpin WRITE SetFlatSpin STORED false)
+    Q_PROPERTY(
+        TQORStoreCtrl* StoreCtrl READ GetStoreCtrl WRITE SetStoreCtrl NOTIFY storeCtrlChanged)
+    Q_PROPERTY(
+        QString StoreSection READ GetStoreSection WRITE SetStoreSection NOTIFY storeSectionChanged)
+    Q_PROPERTY(bool Precedence READ GetPrecedence WRITE SetPrecedence NOTIFY precedenceChanged)
+    Q_PROPERTY(bool PrefixFunctions READ GetPrefixFunctions WRITE SetPrefixFunctions NOTIFY
+                   prefixFunctionsChanged)
+    Q_PROPERTY(bool Flat READ GetFlat WRITE SetFlat NOTIFY flatChanged)
+    Q_PROPERTY(QString DispFont READ GetDispFont WRITE SetDispFont NOTIFY dispFontChanged)
+    Q_PROPERTY(bool LoadMemoryAtStart READ GetLoadMemoryAtStart WRITE SetLoadMemoryAtStart NOTIFY
+                   loadMemoryAtStartChanged)
+    Q_PROPERTY(QString Title READ GetTitle WRITE SetTitle NOTIFY titleChanged)
+    Q_PROPERTY(bool HiColorOnly READ GetHiColorOnly WRITE SetHiColorOnly NOTIFY hiColorOnlyChanged)
+    Q_PROPERTY(QIcon CalcEditGlyph READ GetCalcEditGlyph WRITE SetCalcEditGlyph NOTIFY
+                   calcEditGlyphChanged)
+    Q_PROPERTY(QIcon CloseGlyph READ GetCloseGlyph WRITE SetCloseGlyph NOTIFY closeGlyphChanged)
+    Q_PROPERTY(QIcon CancelGlyph READ GetCancelGlyph WRITE SetCancelGlyph NOTIFY cancelGlyphChanged)
+    Q_PROPERTY(QIcon CopyGlyph READ GetCopyGlyph WRITE SetCopyGlyph NOTIFY copyGlyphChanged)
+    Q_PROPERTY(QIcon PasteGlyph READ GetPasteGlyph WRITE SetPasteGlyph NOTIFY pasteGlyphChanged)
+    Q_PROPERTY(QColor ColorBackground READ GetColorBackground WRITE SetColorBackground NOTIFY
+                   colorBackgroundChanged)
+    Q_PROPERTY(QString ExitHint READ GetExitHint WRITE SetExitHint NOTIFY exitHintChanged)
+    Q_PROPERTY(
+        qorkit::TQORFormPosition Position READ GetPosition WRITE SetPosition NOTIFY positionChanged)
+    Q_PROPERTY(bool StayOnTop READ GetStayOnTop WRITE SetStayOnTop NOTIFY stayOnTopChanged)
+    Q_PROPERTY(QString Version READ GetVersion WRITE SetVersion NOTIFY versionChanged STORED false)
+    Q_PROPERTY(qorkit::TQORRegIniType RegIni READ GetRegIni WRITE SetRegIni NOTIFY regIniChanged
+                   STORED false)
+    Q_PROPERTY(bool FlatSpin READ GetFlatSpin WRITE SetFlatSpin NOTIFY flatSpinChanged STORED false)
     Q_PROPERTY(QString LastError READ GetLastError STORED false)
 
 public:
     ~TQORCalcComponent() override;
 
     TQORUICtrl* GetUICtrl() const { return uiCtrl_.data(); }
-    void SetUICtrl(TQORUICtrl* value) { uiCtrl_ = value; }
+    void SetUICtrl(TQORUICtrl* value);
     TQOREditColorSet* GetColorSet() const { return colorSet_; }
     TQORStoreCtrl* GetStoreCtrl() const { return storeCtrl_.data(); }
     void SetStoreCtrl(TQORStoreCtrl* value);
     QString GetStoreSection() const { return storeSection_; }
-    void SetStoreSection(const QString& value) { storeSection_ = value; }
+    void SetStoreSection(const QString& value)
+    {
+        Store(storeSection_, value, &TQORCalcComponent::storeSectionChanged);
+    }
     bool GetPrecedence() const { return precedence_; }
-    void SetPrecedence(bool value) { precedence_ = value; }
+    void SetPrecedence(bool value)
+    {
+        Store(precedence_, value, &TQORCalcComponent::precedenceChanged);
+    }
     bool GetPrefixFunctions() const { return prefixFunctions_; }
-    void SetPrefixFunctions(bool value) { prefixFunctions_ = value; }
+    void SetPrefixFunctions(bool value)
+    {
+        Store(prefixFunctions_, value, &TQORCalcComponent::prefixFunctionsChanged);
+    }
     bool GetFlat() const { return flat_; }
-    void SetFlat(bool value) { flat_ = value; }
+    void SetFlat(bool value) { Store(flat_, value, &TQORCalcComponent::flatChanged); }
     QString GetDispFont() const { return dispFont_; }
-    void SetDispFont(const QString& value) { dispFont_ = value; }
+    void SetDispFont(const QString& value)
+    {
+        Store(dispFont_, value, &TQORCalcComponent::dispFontChanged);
+    }
     bool GetLoadMemoryAtStart() const { return loadMemoryAtStart_; }
-    void SetLoadMemoryAtStart(bool value) { loadMemoryAtStart_ = value; }
+    void SetLoadMemoryAtStart(bool value)
+    {
+        Store(loadMemoryAtStart_, value, &TQORCalcComponent::loadMemoryAtStartChanged);
+    }
     QString GetTitle() const { return title_; }
-    void SetTitle(const QString& value) { title_ = value; }
+    void SetTitle(const QString& value) { Store(title_, value, &TQORCalcComponent::titleChanged); }
     bool GetHiColorOnly() const { return hiColorOnly_; }
     void SetHiColorOnly(bool value);
     QIcon GetCalcEditGlyph() const { return calcEditGlyph_; }
@@ -397,21 +434,30 @@ public:
     void SetPasteGlyph(const QIcon& value);
     // Invalid: the style's window colour.
     QColor GetColorBackground() const { return colorBackground_; }
-    void SetColorBackground(const QColor& value) { colorBackground_ = value; }
+    void SetColorBackground(const QColor& value)
+    {
+        Store(colorBackground_, value, &TQORCalcComponent::colorBackgroundChanged);
+    }
     QString GetExitHint() const { return exitHint_; }
-    void SetExitHint(const QString& value) { exitHint_ = value; }
+    void SetExitHint(const QString& value)
+    {
+        Store(exitHint_, value, &TQORCalcComponent::exitHintChanged);
+    }
     TQORFormPosition GetPosition() const { return position_; }
     void SetPosition(TQORFormPosition value);
     bool GetStayOnTop() const { return stayOnTop_; }
-    void SetStayOnTop(bool value) { stayOnTop_ = value; }
-    // The fixed version text; writes are ignored.
+    void SetStayOnTop(bool value)
+    {
+        Store(stayOnTop_, value, &TQORCalcComponent::stayOnTopChanged);
+    }
+    // The fixed version text; writes are ignored (versionChanged is never emitted).
     QString GetVersion() const { return QString::fromLatin1(QORCalcVersion); }
     void SetVersion(const QString&) { }
     // The kind of the settings store (ritNone without one); setting it changes the store's.
     TQORRegIniType GetRegIni() const;
     void SetRegIni(TQORRegIniType value);
     bool GetFlatSpin() const { return flatSpin_; }
-    void SetFlatSpin(bool value) { flatSpin_ = value; }
+    void SetFlatSpin(bool value) { Store(flatSpin_, value, &TQORCalcComponent::flatSpinChanged); }
     // The engine's error text after the last run ("" when it ended without error).
     QString GetLastError() const { return lastError_; }
     // The display text after the last accepted run.
@@ -431,9 +477,43 @@ public:
 
 Q_SIGNALS:
     void GlyphChanged();
+    void uiCtrlChanged();
+    void storeCtrlChanged();
+    void storeSectionChanged();
+    void precedenceChanged();
+    void prefixFunctionsChanged();
+    void flatChanged();
+    void dispFontChanged();
+    void loadMemoryAtStartChanged();
+    void titleChanged();
+    void hiColorOnlyChanged();
+    void calcEditGlyphChanged();
+    void closeGlyphChanged();
+    void cancelGlyphChanged();
+    void copyGlyphChanged();
+    void pasteGlyphChanged();
+    void colorBackgroundChanged();
+    void exitHintChanged();
+    void positionChanged();
+    void stayOnTopChanged();
+    void versionChanged();
+    void regIniChanged();
+    void flatSpinChanged();
+    // OnStartCalculator: the form is about to be shown.
+    void startCalculator(qorkit::TQORCalcFormBase* form);
 
 protected:
     explicit TQORCalcComponent(QObject* owner);
+
+    // Stores a property's value and emits its change signal when that changed it.
+    template<class T, class C> void Store(T& field, const T& value, void (C::*signal)())
+    {
+        if (AssignChanged(field, value))
+            (static_cast<C*>(this)->*signal)();
+    }
+    // The window the dialog opens over: the owner's window when the owner (or an owner of it)
+    // is a widget, else the application's active window.
+    QWidget* OwnerWindow() const;
 
     // Runs the dialog once: placement, caption, look, then the component's own set-up,
     // OnStartCalculator, the modal loop and the read-back when accepted.
@@ -453,11 +533,7 @@ protected:
     QString displayText_;
 
 private:
-    int GetPositionValue() const { return position_; }
-    void SetPositionValue(int value);
-    int GetRegIniValue() const { return GetRegIni(); }
-    void SetRegIniValue(int value);
-    void SetGlyph(QIcon& field, const QIcon& value);
+    void SetGlyph(QIcon& field, const QIcon& value, void (TQORCalcComponent::*signal)());
     void TransferStore(bool save);
 
     QPointer<TQORUICtrl> uiCtrl_;
@@ -493,7 +569,8 @@ public:
     using TExecutePosEvent
         = std::function<bool(Component* sender, std::int32_t left, std::int32_t top)>;
 
-    // Shows the dialog; true when the user accepted. OnExecute, when assigned, replaces it.
+    // Shows the dialog; true when the user accepted. OnExecute, when assigned, replaces it (a
+    // replacement returns a result, so it has no signal; OnStartCalculator has one).
     bool Execute()
     {
         if (onExecute_)
@@ -527,6 +604,7 @@ protected:
     {
         if (onStartCalculator_)
             onStartCalculator_(static_cast<Component*>(this), static_cast<Form*>(&form));
+        Q_EMIT this->startCalculator(&form);
     }
 
 private:
@@ -534,6 +612,10 @@ private:
     TExecuteEvent onExecute_;
     TExecutePosEvent onExecutePos_;
 };
+
+// The window a dialog opened for `parent` belongs to: `parent`'s window, else the application's
+// active window (null when there is none).
+QORKIT_WIDGETS_EXPORT QWidget* QORHostWindow(QWidget* parent);
 
 // Keeps the process-wide display font for the life of one free-function dialog, replaced by
 // `font` when that is not empty.

@@ -133,7 +133,7 @@ TQORCalculator::TQORCalculator(QObject* owner) : TQORCalcComponentT(owner) { }
 
 std::unique_ptr<TQORCalcFormBase> TQORCalculator::CreateForm()
 {
-    return std::make_unique<TQORCalcForm>();
+    return std::make_unique<TQORCalcForm>(OwnerWindow());
 }
 
 void TQORCalculator::SetUpForm(TQORCalcFormBase& base)
@@ -159,8 +159,8 @@ void TQORCalculator::SetUpEngine(TQORCalcEngine& engine)
 
 void TQORCalculator::ReadBackMore(TQORCalcEngine& engine)
 {
-    showThousandsSeparators_ = engine.GetThousandsSeparators();
-    lakhFormatting_ = engine.GetLakhFormatting();
+    SetShowThousandsSeparators(engine.GetThousandsSeparators());
+    SetLakhFormatting(engine.GetLakhFormatting());
 }
 
 std::span<const TQORStoreKey> TQORCalculator::StoreKeys() const { return CalcStoreKeys; }
@@ -168,26 +168,27 @@ std::span<const TQORStoreKey> TQORCalculator::StoreKeys() const { return CalcSto
 // ---- Free functions --------------------------------------------------------------------------
 
 bool DisplayCalcPos(const std::string& Title, Extended& Value, std::int32_t X, std::int32_t Y,
-                    const std::string& DispFont, std::uint8_t Decimals, bool Flat)
+                    const std::string& DispFont, std::uint8_t Decimals, bool Flat, QWidget* parent)
 {
-    return DisplayFloatCalc<TQORCalcForm>(Title, Value, X, Y, DispFont, Decimals, Flat);
+    return DisplayFloatCalc<TQORCalcForm>(Title, Value, X, Y, DispFont, Decimals, Flat, parent);
 }
 
 bool DisplayCalcPos(const std::string& Title, Extended& Value, std::int32_t X, std::int32_t Y,
-                    std::uint8_t Decimals, bool Flat)
+                    std::uint8_t Decimals, bool Flat, QWidget* parent)
 {
-    return DisplayCalcPos(Title, Value, X, Y, std::string(), Decimals, Flat);
+    return DisplayCalcPos(Title, Value, X, Y, std::string(), Decimals, Flat, parent);
 }
 
 bool DisplayCalc(const std::string& Title, Extended& Value, const std::string& DispFont,
-                 std::uint8_t Decimals, bool Flat)
+                 std::uint8_t Decimals, bool Flat, QWidget* parent)
 {
-    return DisplayCalcPos(Title, Value, -1, -1, DispFont, Decimals, Flat);
+    return DisplayCalcPos(Title, Value, -1, -1, DispFont, Decimals, Flat, parent);
 }
 
-bool DisplayCalc(const std::string& Title, Extended& Value, std::uint8_t Decimals, bool Flat)
+bool DisplayCalc(const std::string& Title, Extended& Value, std::uint8_t Decimals, bool Flat,
+                 QWidget* parent)
 {
-    return DisplayCalcPos(Title, Value, -1, -1, std::string(), Decimals, Flat);
+    return DisplayCalcPos(Title, Value, -1, -1, std::string(), Decimals, Flat, parent);
 }
 
 } // namespace qorkit

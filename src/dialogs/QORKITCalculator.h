@@ -40,19 +40,31 @@ class TQORCalculator
     : public TQORCalcComponentT<TQORCalculator, TQORCalcForm, TQORFloatCalcComponent> {
     Q_OBJECT
     Q_PROPERTY(bool ShowThousandsSeparators READ GetShowThousandsSeparators WRITE
-                   SetShowThousandsSeparators)
-    Q_PROPERTY(bool LakhFormatting READ GetLakhFormatting WRITE SetLakhFormatting)
-    Q_PROPERTY(bool SmallCalc READ GetSmallCalc WRITE SetSmallCalc)
+                   SetShowThousandsSeparators NOTIFY showThousandsSeparatorsChanged)
+    Q_PROPERTY(bool LakhFormatting READ GetLakhFormatting WRITE SetLakhFormatting NOTIFY
+                   lakhFormattingChanged)
+    Q_PROPERTY(bool SmallCalc READ GetSmallCalc WRITE SetSmallCalc NOTIFY smallCalcChanged)
 
 public:
     explicit TQORCalculator(QObject* owner = nullptr);
 
     bool GetShowThousandsSeparators() const { return showThousandsSeparators_; }
-    void SetShowThousandsSeparators(bool value) { showThousandsSeparators_ = value; }
+    void SetShowThousandsSeparators(bool value)
+    {
+        Store(showThousandsSeparators_, value, &TQORCalculator::showThousandsSeparatorsChanged);
+    }
     bool GetLakhFormatting() const { return lakhFormatting_; }
-    void SetLakhFormatting(bool value) { lakhFormatting_ = value; }
+    void SetLakhFormatting(bool value)
+    {
+        Store(lakhFormatting_, value, &TQORCalculator::lakhFormattingChanged);
+    }
     bool GetSmallCalc() const { return smallCalc_; }
-    void SetSmallCalc(bool value) { smallCalc_ = value; }
+    void SetSmallCalc(bool value) { Store(smallCalc_, value, &TQORCalculator::smallCalcChanged); }
+
+Q_SIGNALS:
+    void showThousandsSeparatorsChanged();
+    void lakhFormattingChanged();
+    void smallCalcChanged();
 
 protected:
     std::unique_ptr<TQORCalcFormBase> CreateForm() override;
@@ -74,14 +86,21 @@ using TQORCalcExecuteEvent = TQORCalculator::TExecuteEvent;
 using TQORCalcExecutePosEvent = TQORCalculator::TExecutePosEvent;
 
 // Shows the standard calculator with the saved angle mode and memory; true when the user
-// accepted, and then `Value` holds the result. An empty font keeps the saved display font.
-bool DisplayCalc(const std::string& Title, Extended& Value, const std::string& DispFont,
-                 std::uint8_t Decimals, bool Flat);
-bool DisplayCalc(const std::string& Title, Extended& Value, std::uint8_t Decimals, bool Flat);
+// accepted, and then `Value` holds the result. An empty font keeps the saved display font. The
+// dialog is a child of `parent`'s window (default: the application's active window), centred
+// on it.
+QORKIT_WIDGETS_EXPORT bool DisplayCalc(const std::string& Title, Extended& Value,
+                                       const std::string& DispFont, std::uint8_t Decimals,
+                                       bool Flat, QWidget* parent = nullptr);
+QORKIT_WIDGETS_EXPORT bool DisplayCalc(const std::string& Title, Extended& Value,
+                                       std::uint8_t Decimals, bool Flat, QWidget* parent = nullptr);
 // The same with the form's left and top (-1 keeps the centred coordinate).
-bool DisplayCalcPos(const std::string& Title, Extended& Value, std::int32_t X, std::int32_t Y,
-                    const std::string& DispFont, std::uint8_t Decimals, bool Flat);
-bool DisplayCalcPos(const std::string& Title, Extended& Value, std::int32_t X, std::int32_t Y,
-                    std::uint8_t Decimals, bool Flat);
+QORKIT_WIDGETS_EXPORT bool DisplayCalcPos(const std::string& Title, Extended& Value, std::int32_t X,
+                                          std::int32_t Y, const std::string& DispFont,
+                                          std::uint8_t Decimals, bool Flat,
+                                          QWidget* parent = nullptr);
+QORKIT_WIDGETS_EXPORT bool DisplayCalcPos(const std::string& Title, Extended& Value, std::int32_t X,
+                                          std::int32_t Y, std::uint8_t Decimals, bool Flat,
+                                          QWidget* parent = nullptr);
 
 } // namespace qorkit

@@ -15,19 +15,19 @@ TQORFloatCalcComponent::~TQORFloatCalcComponent() = default;
 void TQORFloatCalcComponent::SetValue(Extended value)
 {
     if (std::isfinite(value))
-        value_ = value;
+        Store(value_, value, &TQORFloatCalcComponent::valueChanged);
 }
 
 void TQORFloatCalcComponent::SetMemory(Extended value)
 {
     if (std::isfinite(value))
-        memory_ = value;
+        Store(memory_, value, &TQORFloatCalcComponent::memoryChanged);
 }
 
 void TQORFloatCalcComponent::SetDecimalPlacesValue(int value)
 {
     if (value >= 0 && value <= 255)
-        decimalPlaces_ = static_cast<std::uint8_t>(value);
+        SetDecimalPlaces(static_cast<std::uint8_t>(value));
 }
 
 TQORCalcEngine& TQORFloatCalcComponent::GetCalcEngine()
@@ -51,14 +51,14 @@ void TQORFloatCalcComponent::SetUpForm(TQORCalcFormBase& base)
 void TQORFloatCalcComponent::ReadBack(TQORCalcFormBase& base)
 {
     TQORCalcEngine& engine = static_cast<TQORFloatCalcForm&>(base).GetCalcEngine();
-    radians_ = engine.GetAngleMode() == amRadians;
+    SetRadians(engine.GetAngleMode() == amRadians);
     SetValue(engine.GetDisplayValue());
     SetMemory(engine.GetMemoryValue());
-    decimalPlaces_ = engine.GetDecimalPlaces();
-    trimTrailingZeroes_ = engine.GetTrimTrailingZeroes();
-    operatorSameLine_ = engine.GetOperatorSameLine();
+    SetDecimalPlaces(engine.GetDecimalPlaces());
+    SetTrimTrailingZeroes(engine.GetTrimTrailingZeroes());
+    SetOperatorSameLine(engine.GetOperatorSameLine());
     SetPrefixFunctions(engine.GetPrefixFunctions());
-    binaryPercent_ = engine.GetBinaryPercent();
+    SetBinaryPercent(engine.GetBinaryPercent());
     SetPrecedence(engine.GetPrecedence());
     ReadBackMore(engine);
 }

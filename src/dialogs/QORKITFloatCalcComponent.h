@@ -14,49 +14,87 @@ namespace qorkit {
 
 class TQORFloatCalcComponent : public TQORCalcComponent {
     Q_OBJECT
-    Q_PROPERTY(int DecimalPlaces READ GetDecimalPlacesValue WRITE SetDecimalPlacesValue)
-    Q_PROPERTY(bool TrimTrailingZeroes READ GetTrimTrailingZeroes WRITE SetTrimTrailingZeroes)
-    Q_PROPERTY(bool OperatorSameLine READ GetOperatorSameLine WRITE SetOperatorSameLine)
-    Q_PROPERTY(bool BinaryPercent READ GetBinaryPercent WRITE SetBinaryPercent)
+    Q_PROPERTY(int DecimalPlaces READ GetDecimalPlacesValue WRITE SetDecimalPlacesValue NOTIFY
+                   decimalPlacesChanged)
+    Q_PROPERTY(bool TrimTrailingZeroes READ GetTrimTrailingZeroes WRITE SetTrimTrailingZeroes NOTIFY
+                   trimTrailingZeroesChanged)
+    Q_PROPERTY(bool OperatorSameLine READ GetOperatorSameLine WRITE SetOperatorSameLine NOTIFY
+                   operatorSameLineChanged)
     Q_PROPERTY(
-        bool OverrideDecimalPlaces READ GetOverrideDecimalPlaces WRITE SetOverrideDecimalPlaces)
-    Q_PROPERTY(bool ReturnDecimalPlaces READ GetReturnDecimalPlaces WRITE SetReturnDecimalPlaces)
-    Q_PROPERTY(
-        bool ReadOnlyDecimalPlaces READ GetReadOnlyDecimalPlaces WRITE SetReadOnlyDecimalPlaces)
-    Q_PROPERTY(double Value READ GetValueDouble WRITE SetValueDouble)
-    Q_PROPERTY(double Memory READ GetMemoryDouble WRITE SetMemoryDouble)
-    Q_PROPERTY(bool Radians READ GetRadians WRITE SetRadians)
+        bool BinaryPercent READ GetBinaryPercent WRITE SetBinaryPercent NOTIFY binaryPercentChanged)
+    Q_PROPERTY(bool OverrideDecimalPlaces READ GetOverrideDecimalPlaces WRITE
+                   SetOverrideDecimalPlaces NOTIFY overrideDecimalPlacesChanged)
+    Q_PROPERTY(bool ReturnDecimalPlaces READ GetReturnDecimalPlaces WRITE SetReturnDecimalPlaces
+                   NOTIFY returnDecimalPlacesChanged)
+    Q_PROPERTY(bool ReadOnlyDecimalPlaces READ GetReadOnlyDecimalPlaces WRITE
+                   SetReadOnlyDecimalPlaces NOTIFY readOnlyDecimalPlacesChanged)
+    Q_PROPERTY(double Value READ GetValueDouble WRITE SetValueDouble NOTIFY valueChanged)
+    Q_PROPERTY(double Memory READ GetMemoryDouble WRITE SetMemoryDouble NOTIFY memoryChanged)
+    Q_PROPERTY(bool Radians READ GetRadians WRITE SetRadians NOTIFY radiansChanged)
 
 public:
     ~TQORFloatCalcComponent() override;
 
     std::uint8_t GetDecimalPlaces() const { return decimalPlaces_; }
-    void SetDecimalPlaces(std::uint8_t value) { decimalPlaces_ = value; }
+    void SetDecimalPlaces(std::uint8_t value)
+    {
+        Store(decimalPlaces_, value, &TQORFloatCalcComponent::decimalPlacesChanged);
+    }
     bool GetTrimTrailingZeroes() const { return trimTrailingZeroes_; }
-    void SetTrimTrailingZeroes(bool value) { trimTrailingZeroes_ = value; }
+    void SetTrimTrailingZeroes(bool value)
+    {
+        Store(trimTrailingZeroes_, value, &TQORFloatCalcComponent::trimTrailingZeroesChanged);
+    }
     bool GetOperatorSameLine() const { return operatorSameLine_; }
-    void SetOperatorSameLine(bool value) { operatorSameLine_ = value; }
+    void SetOperatorSameLine(bool value)
+    {
+        Store(operatorSameLine_, value, &TQORFloatCalcComponent::operatorSameLineChanged);
+    }
     bool GetBinaryPercent() const { return binaryPercent_; }
-    void SetBinaryPercent(bool value) { binaryPercent_ = value; }
+    void SetBinaryPercent(bool value)
+    {
+        Store(binaryPercent_, value, &TQORFloatCalcComponent::binaryPercentChanged);
+    }
     // Left to owners such as the calculator edits: whether they impose their own decimal
     // places on the calculator and take the calculator's back.
     bool GetOverrideDecimalPlaces() const { return overrideDecimalPlaces_; }
-    void SetOverrideDecimalPlaces(bool value) { overrideDecimalPlaces_ = value; }
+    void SetOverrideDecimalPlaces(bool value)
+    {
+        Store(overrideDecimalPlaces_, value, &TQORFloatCalcComponent::overrideDecimalPlacesChanged);
+    }
     bool GetReturnDecimalPlaces() const { return returnDecimalPlaces_; }
-    void SetReturnDecimalPlaces(bool value) { returnDecimalPlaces_ = value; }
+    void SetReturnDecimalPlaces(bool value)
+    {
+        Store(returnDecimalPlaces_, value, &TQORFloatCalcComponent::returnDecimalPlacesChanged);
+    }
     // The decimal-places spin edit cannot be changed by the user.
     bool GetReadOnlyDecimalPlaces() const { return readOnlyDecimalPlaces_; }
-    void SetReadOnlyDecimalPlaces(bool value) { readOnlyDecimalPlaces_ = value; }
+    void SetReadOnlyDecimalPlaces(bool value)
+    {
+        Store(readOnlyDecimalPlaces_, value, &TQORFloatCalcComponent::readOnlyDecimalPlacesChanged);
+    }
     // NaN and infinities are refused (the value stays).
     Extended GetValue() const { return value_; }
     void SetValue(Extended value);
     Extended GetMemory() const { return memory_; }
     void SetMemory(Extended value);
     bool GetRadians() const { return radians_; }
-    void SetRadians(bool value) { radians_ = value; }
+    void SetRadians(bool value) { Store(radians_, value, &TQORFloatCalcComponent::radiansChanged); }
 
     // The component's own engine, set up from the properties; the component keeps it.
     TQORCalcEngine& GetCalcEngine();
+
+Q_SIGNALS:
+    void decimalPlacesChanged();
+    void trimTrailingZeroesChanged();
+    void operatorSameLineChanged();
+    void binaryPercentChanged();
+    void overrideDecimalPlacesChanged();
+    void returnDecimalPlacesChanged();
+    void readOnlyDecimalPlacesChanged();
+    void valueChanged();
+    void memoryChanged();
+    void radiansChanged();
 
 protected:
     explicit TQORFloatCalcComponent(QObject* owner);
@@ -98,14 +136,17 @@ private:
 bool RunFloatCalcDialog(TQORFloatCalcForm& form, const std::string& title, Extended& value,
                         std::int32_t left, std::int32_t top, std::uint8_t decimals, bool flat);
 
-// The DisplayCalc / DisplaySciCalc run on a new Form; a non-empty `font` is the display font
-// for the life of the dialog.
+// The DisplayCalc / DisplaySciCalc run on a new Form, a child of `parent`'s window (default: the
+// active window) centred on it; a non-empty `font` is the display font for the life of the
+// dialog.
 template<class Form>
 bool DisplayFloatCalc(const std::string& title, Extended& value, std::int32_t left,
-                      std::int32_t top, const std::string& font, std::uint8_t decimals, bool flat)
+                      std::int32_t top, const std::string& font, std::uint8_t decimals, bool flat,
+                      QWidget* parent)
 {
     const TQORDispFontScope fontScope(font);
-    Form form;
+    Form form(QORHostWindow(parent));
+    form.Place(poMainFormCenter);
     return RunFloatCalcDialog(form, title, value, left, top, decimals, flat);
 }
 

@@ -102,13 +102,16 @@ const TToggleLabel ToggleLabels[] = {
 } // namespace
 
 TQORFloatCalcForm::TQORFloatCalcForm(QWidget* parent, TQORFormGeometry geometry)
-    : TQORCalcFormBase(parent, geometry, [] {
-          QFont font(QStringLiteral("Arial"));
-          font.setPixelSize(11);
-          font.setBold(true);
-          return font;
-      }())
+    : TQORCalcFormBase(parent, geometry,
+                       [] {
+                           QFont font(QStringLiteral("Arial"));
+                           font.setPixelSize(11);
+                           font.setBold(true);
+                           return font;
+                       }()),
+      engineObject_(new TQORCalcEngineObject(this)), engine_(engineObject_->GetEngine())
 {
+    engineObject_->setObjectName(QStringLiteral("EngineObject"));
     AddKeys<TQORCalcFormBase, TQORCalcEngine>(QORCommonKeys<TQORCalcEngine>, engine_);
     AddKeys<TQORFloatCalcForm, TQORCalcEngine>(FloatKeys, engine_);
     InvBtn->setCheckable(true);
@@ -125,21 +128,18 @@ TQORFloatCalcForm::TQORFloatCalcForm(QWidget* parent, TQORFormGeometry geometry)
     });
 
     ApplyDispFont(QString::fromStdString(QORCalcDispFont));
-    engine_.SetOnDisplayChange([this](TQORCalcEngine*) {
-        ValueDisplay->setText(QString::fromStdString(engine_.GetDisplayStr()));
-    });
-    engine_.SetOnMemoryChange([this](TQORCalcEngine*) {
-        MemoryDisplay->setText(QString::fromStdString(engine_.GetMemoryContents()));
-    });
-    engine_.SetOnDecimalPlacesChange([this](TQORCalcEngine*) {
+    const TQORCalcEngineObject* front = engineObject_;
+    connect(front, &TQORCalcEngineObject::displayChange, this,
+            [this] { ValueDisplay->setText(engineObject_->GetDisplayText()); });
+    connect(front, &TQORCalcEngineObject::memoryChange, this,
+            [this] { MemoryDisplay->setText(engineObject_->GetMemoryText()); });
+    connect(front, &TQORCalcEngineObject::decimalPlacesChange, this, [this] {
         const QSignalBlocker quiet(DPSpin);
         DPSpin->setValue(engine_.GetDecimalPlaces());
     });
-    engine_.SetOnAngleModeChange([this](TQORCalcEngine*) {
-        RadBtn->setText(QString::fromStdString(engine_.GetAngleModeStr()));
-    });
-    engine_.SetOnSetToggles([this](TQORCalcEngine*) { ShowToggles(); });
-    engine_.SetOnClearToggles([this](TQORCalcEngine*) { ShowToggles(); });
+    connect(front, &TQORCalcEngineObject::angleModeChange, this,
+            [this] { RadBtn->setText(QString::fromStdString(engine_.GetAngleModeStr())); });
+    connect(front, &TQORCalcEngineObject::togglesChange, this, &TQORFloatCalcForm::ShowToggles);
 }
 
 std::span<const TQORCharKey> TQORFloatCalcForm::FloatChars() { return FloatCharKeys; }

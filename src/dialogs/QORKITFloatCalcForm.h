@@ -6,6 +6,7 @@
 
 #include "QORKITCalcEngine.h"
 #include "QORKITCalcFormBase.h"
+#include "QORKITEngineObjects.h"
 
 #include <QSpinBox>
 
@@ -35,8 +36,10 @@ public:
     QToolButton* RadBtn = nullptr;
     QSpinBox* DPSpin = nullptr;
 
-    // The form's own engine; it lives as long as the form.
+    // The form's own engine; it lives as long as the form. Its OnX slots belong to the form's
+    // engine object: follow the engine through GetEngineObject()'s signals.
     TQORCalcEngine& GetCalcEngine() { return engine_; }
+    TQORCalcEngineObject* GetEngineObject() const { return engineObject_; }
     std::string GetLastError() const override { return engine_.GetLastError(); }
 
     // Shows the engine's display, memory, angle mode and decimal places.
@@ -61,7 +64,8 @@ protected:
     void PasteText(const std::string& text) override { engine_.InputString(text); }
 
 private:
-    TQORCalcEngine engine_;
+    TQORCalcEngineObject* engineObject_; // owns the engine
+    TQORCalcEngine& engine_;
 };
 
 } // namespace qorkit

@@ -160,8 +160,10 @@ QString ToQ(const std::string& s) { return QString::fromStdString(s); }
 } // namespace
 
 TQORProgCalcForm::TQORProgCalcForm(QWidget* parent)
-    : TQORCalcFormBase(parent, ProgGeometry, QFont(QStringLiteral("Arial"), 8, QFont::Bold))
+    : TQORCalcFormBase(parent, ProgGeometry, QFont(QStringLiteral("Arial"), 8, QFont::Bold)),
+      engineObject_(new TQORProgCalcEngineObject(this)), engine_(engineObject_->GetEngine())
 {
+    engineObject_->setObjectName(QStringLiteral("EngineObject"));
     SetHelpContext(QORProgCalcHelpContext);
     AddKeys<TQORCalcFormBase, IQORProgCalcEngine>(QORCommonKeys<IQORProgCalcEngine>, engine_);
     AddKeys<TQORProgCalcForm, IQORProgCalcEngine>(ProgKeys, engine_);
@@ -197,11 +199,13 @@ TQORProgCalcForm::TQORProgCalcForm(QWidget* parent)
 
     // The size list is deliberately not told of size changes the engine makes by itself
     // (decimal forces 64 bits): it keeps showing the size the user chose.
-    engine_.SetOnDisplayChange(
-        [this](IQORProgCalcEngine*) { ValueDisplay->setText(ToQ(engine_.GetDisplayStr())); });
-    engine_.SetOnMemoryChange(
-        [this](IQORProgCalcEngine*) { MemoryDisplay->setText(ToQ(engine_.GetMemoryContents())); });
-    engine_.SetOnBaseDisplayChange([this](IQORProgCalcEngine*) { EnableDigits(); });
+    const TQORProgCalcEngineObject* front = engineObject_;
+    connect(front, &TQORProgCalcEngineObject::displayChange, this,
+            [this] { ValueDisplay->setText(engineObject_->GetDisplayText()); });
+    connect(front, &TQORProgCalcEngineObject::memoryChange, this,
+            [this] { MemoryDisplay->setText(engineObject_->GetMemoryText()); });
+    connect(front, &TQORProgCalcEngineObject::baseDisplayChange, this,
+            &TQORProgCalcForm::EnableDigits);
     ValueDisplay->setText(ToQ(engine_.GetDisplayStr()));
     InstallKeyPreview();
 }
@@ -266,8 +270,8 @@ TQORProgCalculator::TQORProgCalculator(QObject* owner) : TQORCalcComponentT(owne
 
 void TQORProgCalculator::SetMemory(std::int64_t value)
 {
-    memory_ = value;
     QORProgCalcMemory = value;
+    Store(memory_, value, &TQORProgCalculator::memoryChanged);
 }
 
 void TQORProgCalculator::SetUpEngine(IQORProgCalcEngine& engine)
@@ -288,7 +292,7 @@ IQORProgCalcEngine& TQORProgCalculator::GetCalcEngine()
 
 std::unique_ptr<TQORCalcFormBase> TQORProgCalculator::CreateForm()
 {
-    return std::make_unique<TQORProgCalcForm>();
+    return std::make_unique<TQORProgCalcForm>(OwnerWindow());
 }
 
 void TQORProgCalculator::SetUpForm(TQORCalcFormBase& base)
@@ -301,9 +305,9 @@ void TQORProgCalculator::SetUpForm(TQORCalcFormBase& base)
 void TQORProgCalculator::ReadBack(TQORCalcFormBase& base)
 {
     IQORProgCalcEngine& engine = static_cast<TQORProgCalcForm&>(base).GetCalcEngine();
-    value_ = engine.GetDisplayValue();
-    // Straight into the field: the process-wide memory is left as it was.
-    memory_ = engine.GetMemoryValue();
+    SetValue(engine.GetDisplayValue());
+    // Not through SetMemory: the process-wide memory is left as it was.
+    Store(memory_, engine.GetMemoryValue(), &TQORProgCalculator::memoryChanged);
     SetPrefixFunctions(engine.GetPrefixFunctions());
     SetPrecedence(engine.GetPrecedence());
 }
@@ -323,10 +327,11 @@ void TQORProgCalculator::WriteMemory(TQORStoreCtrl& store, const QString& key)
 // ---- Free functions --------------------------------------------------------------------------
 
 bool DisplayProgCalcPos(const std::string& Title, std::int64_t& Value, std::int32_t X,
-                        std::int32_t Y, const std::string& DispFont, bool Flat)
+                        std::int32_t Y, const std::string& DispFont, bool Flat, QWidget* parent)
 {
     const TQORDispFontScope font(DispFont);
-    TQORProgCalcForm form;
+    TQORProgCalcForm form(QORHostWindow(parent));
+    form.Place(poMainFormCenter);
     IQORProgCalcEngine& engine = form.GetCalcEngine();
     LoadCalculatorSettings();
     engine.SetMemory(QORProgCalcMemory);
@@ -346,20 +351,20 @@ bool DisplayProgCalcPos(const std::string& Title, std::int64_t& Value, std::int3
 }
 
 bool DisplayProgCalcPos(const std::string& Title, std::int64_t& Value, std::int32_t X,
-                        std::int32_t Y, bool Flat)
+                        std::int32_t Y, bool Flat, QWidget* parent)
 {
-    return DisplayProgCalcPos(Title, Value, X, Y, std::string(), Flat);
+    return DisplayProgCalcPos(Title, Value, X, Y, std::string(), Flat, parent);
 }
 
 bool DisplayProgCalc(const std::string& Title, std::int64_t& Value, const std::string& DispFont,
-                     bool Flat)
+                     bool Flat, QWidget* parent)
 {
-    return DisplayProgCalcPos(Title, Value, -1, -1, DispFont, Flat);
+    return DisplayProgCalcPos(Title, Value, -1, -1, DispFont, Flat, parent);
 }
 
-bool DisplayProgCalc(const std::string& Title, std::int64_t& Value, bool Flat)
+bool DisplayProgCalc(const std::string& Title, std::int64_t& Value, bool Flat, QWidget* parent)
 {
-    return DisplayProgCalcPos(Title, Value, -1, -1, std::string(), Flat);
+    return DisplayProgCalcPos(Title, Value, -1, -1, std::string(), Flat, parent);
 }
 
 } // namespace qorkit

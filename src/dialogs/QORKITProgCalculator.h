@@ -4,6 +4,7 @@
 #pragma once
 
 #include "QORKITCalcFormBase.h"
+#include "QORKITEngineObjects.h"
 #include "QORKITProgCalcEngine.h"
 
 #include <cstdint>
@@ -41,7 +42,10 @@ public:
     TQORBaseComboBox* BaseCombo = nullptr;
     TQORBaseComboBox* BitsCombo = nullptr;
 
+    // The form's own engine. Its OnX slots belong to the form's engine object: follow the
+    // engine through GetEngineObject()'s signals.
     IQORProgCalcEngine& GetCalcEngine() { return engine_; }
+    TQORProgCalcEngineObject* GetEngineObject() const { return engineObject_; }
     std::string GetLastError() const override { return engine_.GetLastError(); }
 
     // Shows the engine's display and memory, selects its base and size in the lists and
@@ -59,25 +63,30 @@ protected:
 private:
     void LoadLists();
 
-    TQORProgCalcEngine engine_;
+    TQORProgCalcEngineObject* engineObject_; // owns the engine
+    IQORProgCalcEngine& engine_;
 };
 
 class TQORProgCalculator : public TQORCalcComponentT<TQORProgCalculator, TQORProgCalcForm> {
     Q_OBJECT
-    Q_PROPERTY(qint64 Value READ GetValue WRITE SetValue)
-    Q_PROPERTY(qint64 Memory READ GetMemory WRITE SetMemory)
+    Q_PROPERTY(qint64 Value READ GetValue WRITE SetValue NOTIFY valueChanged)
+    Q_PROPERTY(qint64 Memory READ GetMemory WRITE SetMemory NOTIFY memoryChanged)
 
 public:
     explicit TQORProgCalculator(QObject* owner = nullptr);
 
     std::int64_t GetValue() const { return value_; }
-    void SetValue(std::int64_t value) { value_ = value; }
+    void SetValue(std::int64_t value) { Store(value_, value, &TQORProgCalculator::valueChanged); }
     std::int64_t GetMemory() const { return memory_; }
     // Also keeps the value as the process-wide programmer's memory.
     void SetMemory(std::int64_t value);
 
     // The component's own engine, set up from the properties; the component keeps it.
     IQORProgCalcEngine& GetCalcEngine();
+
+Q_SIGNALS:
+    void valueChanged();
+    void memoryChanged();
 
 protected:
     std::unique_ptr<TQORCalcFormBase> CreateForm() override;
@@ -103,14 +112,20 @@ using TQORProgCalcExecutePosEvent = TQORProgCalculator::TExecutePosEvent;
 
 // Shows the programmer's calculator with the process-wide programmer's memory; true when the
 // user accepted, and then `Value` holds the result. `Flat` gives flat keys; a non-empty
-// `DispFont` is the display font for this dialog.
-bool DisplayProgCalc(const std::string& Title, std::int64_t& Value, bool Flat);
-bool DisplayProgCalc(const std::string& Title, std::int64_t& Value, const std::string& DispFont,
-                     bool Flat);
+// `DispFont` is the display font for this dialog. The dialog is a child of `parent`'s window
+// (default: the application's active window) and opens centred on it.
+QORKIT_WIDGETS_EXPORT bool DisplayProgCalc(const std::string& Title, std::int64_t& Value, bool Flat,
+                                           QWidget* parent = nullptr);
+QORKIT_WIDGETS_EXPORT bool DisplayProgCalc(const std::string& Title, std::int64_t& Value,
+                                           const std::string& DispFont, bool Flat,
+                                           QWidget* parent = nullptr);
 // The same with the form's left and top (-1 keeps the centred coordinate).
-bool DisplayProgCalcPos(const std::string& Title, std::int64_t& Value, std::int32_t X,
-                        std::int32_t Y, bool Flat);
-bool DisplayProgCalcPos(const std::string& Title, std::int64_t& Value, std::int32_t X,
-                        std::int32_t Y, const std::string& DispFont, bool Flat);
+QORKIT_WIDGETS_EXPORT bool DisplayProgCalcPos(const std::string& Title, std::int64_t& Value,
+                                              std::int32_t X, std::int32_t Y, bool Flat,
+                                              QWidget* parent = nullptr);
+QORKIT_WIDGETS_EXPORT bool DisplayProgCalcPos(const std::string& Title, std::int64_t& Value,
+                                              std::int32_t X, std::int32_t Y,
+                                              const std::string& DispFont, bool Flat,
+                                              QWidget* parent = nullptr);
 
 } // namespace qorkit

@@ -112,18 +112,18 @@ TQORSciCalculator::TQORSciCalculator(QObject* owner) : TQORCalcComponentT(owner)
 void TQORSciCalculator::SetSciMax(Extended value)
 {
     if (std::isfinite(value))
-        sciMax_ = value;
+        Store(sciMax_, value, &TQORSciCalculator::sciMaxChanged);
 }
 
 void TQORSciCalculator::SetSciMin(Extended value)
 {
     if (std::isfinite(value))
-        sciMin_ = value;
+        Store(sciMin_, value, &TQORSciCalculator::sciMinChanged);
 }
 
 std::unique_ptr<TQORCalcFormBase> TQORSciCalculator::CreateForm()
 {
-    return std::make_unique<TQORSciCalcForm>();
+    return std::make_unique<TQORSciCalcForm>(OwnerWindow());
 }
 
 void TQORSciCalculator::SetUpEngine(TQORCalcEngine& engine)
@@ -147,26 +147,28 @@ std::span<const TQORStoreKey> TQORSciCalculator::StoreKeys() const { return SciS
 // ---- Free functions --------------------------------------------------------------------------
 
 bool DisplaySciCalcPos(const std::string& Title, Extended& Value, std::int32_t X, std::int32_t Y,
-                       const std::string& DispFont, std::uint8_t Decimals, bool Flat)
+                       const std::string& DispFont, std::uint8_t Decimals, bool Flat,
+                       QWidget* parent)
 {
-    return DisplayFloatCalc<TQORSciCalcForm>(Title, Value, X, Y, DispFont, Decimals, Flat);
+    return DisplayFloatCalc<TQORSciCalcForm>(Title, Value, X, Y, DispFont, Decimals, Flat, parent);
 }
 
 bool DisplaySciCalcPos(const std::string& Title, Extended& Value, std::int32_t X, std::int32_t Y,
-                       std::uint8_t Decimals, bool Flat)
+                       std::uint8_t Decimals, bool Flat, QWidget* parent)
 {
-    return DisplaySciCalcPos(Title, Value, X, Y, std::string(), Decimals, Flat);
+    return DisplaySciCalcPos(Title, Value, X, Y, std::string(), Decimals, Flat, parent);
 }
 
 bool DisplaySciCalc(const std::string& Title, Extended& Value, const std::string& DispFont,
-                    std::uint8_t Decimals, bool Flat)
+                    std::uint8_t Decimals, bool Flat, QWidget* parent)
 {
-    return DisplaySciCalcPos(Title, Value, -1, -1, DispFont, Decimals, Flat);
+    return DisplaySciCalcPos(Title, Value, -1, -1, DispFont, Decimals, Flat, parent);
 }
 
-bool DisplaySciCalc(const std::string& Title, Extended& Value, std::uint8_t Decimals, bool Flat)
+bool DisplaySciCalc(const std::string& Title, Extended& Value, std::uint8_t Decimals, bool Flat,
+                    QWidget* parent)
 {
-    return DisplaySciCalcPos(Title, Value, -1, -1, std::string(), Decimals, Flat);
+    return DisplaySciCalcPos(Title, Value, -1, -1, std::string(), Decimals, Flat, parent);
 }
 
 } // namespace qorkit

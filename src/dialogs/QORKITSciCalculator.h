@@ -31,24 +31,34 @@ protected:
 class TQORSciCalculator
     : public TQORCalcComponentT<TQORSciCalculator, TQORSciCalcForm, TQORFloatCalcComponent> {
     Q_OBJECT
-    Q_PROPERTY(bool SciRange READ GetSciRange WRITE SetSciRange)
-    Q_PROPERTY(double SciMax READ GetSciMaxDouble WRITE SetSciMaxDouble)
-    Q_PROPERTY(double SciMin READ GetSciMinDouble WRITE SetSciMinDouble)
-    Q_PROPERTY(bool OverrideSciRange READ GetOverrideSciRange WRITE SetOverrideSciRange)
+    Q_PROPERTY(bool SciRange READ GetSciRange WRITE SetSciRange NOTIFY sciRangeChanged)
+    Q_PROPERTY(double SciMax READ GetSciMaxDouble WRITE SetSciMaxDouble NOTIFY sciMaxChanged)
+    Q_PROPERTY(double SciMin READ GetSciMinDouble WRITE SetSciMinDouble NOTIFY sciMinChanged)
+    Q_PROPERTY(bool OverrideSciRange READ GetOverrideSciRange WRITE SetOverrideSciRange NOTIFY
+                   overrideSciRangeChanged)
 
 public:
     explicit TQORSciCalculator(QObject* owner = nullptr);
 
     // Values outside [SciMin, SciMax) are shown in scientific notation when SciRange is on.
     bool GetSciRange() const { return sciRange_; }
-    void SetSciRange(bool value) { sciRange_ = value; }
+    void SetSciRange(bool value) { Store(sciRange_, value, &TQORSciCalculator::sciRangeChanged); }
     Extended GetSciMax() const { return sciMax_; }
     void SetSciMax(Extended value);
     Extended GetSciMin() const { return sciMin_; }
     void SetSciMin(Extended value);
     // Left to owners such as the scientific calculator edit.
     bool GetOverrideSciRange() const { return overrideSciRange_; }
-    void SetOverrideSciRange(bool value) { overrideSciRange_ = value; }
+    void SetOverrideSciRange(bool value)
+    {
+        Store(overrideSciRange_, value, &TQORSciCalculator::overrideSciRangeChanged);
+    }
+
+Q_SIGNALS:
+    void sciRangeChanged();
+    void sciMaxChanged();
+    void sciMinChanged();
+    void overrideSciRangeChanged();
 
 protected:
     std::unique_ptr<TQORCalcFormBase> CreateForm() override;
@@ -75,14 +85,22 @@ using TQORSciCalcExecuteEvent = TQORSciCalculator::TExecuteEvent;
 using TQORSciCalcExecutePosEvent = TQORSciCalculator::TExecutePosEvent;
 
 // Shows the scientific calculator with the saved angle mode and memory; true when the user
-// accepted, and then `Value` holds the result. An empty font keeps the saved display font.
-bool DisplaySciCalc(const std::string& Title, Extended& Value, const std::string& DispFont,
-                    std::uint8_t Decimals, bool Flat);
-bool DisplaySciCalc(const std::string& Title, Extended& Value, std::uint8_t Decimals, bool Flat);
+// accepted, and then `Value` holds the result. An empty font keeps the saved display font. The
+// dialog is a child of `parent`'s window (default: the application's active window), centred
+// on it.
+QORKIT_WIDGETS_EXPORT bool DisplaySciCalc(const std::string& Title, Extended& Value,
+                                          const std::string& DispFont, std::uint8_t Decimals,
+                                          bool Flat, QWidget* parent = nullptr);
+QORKIT_WIDGETS_EXPORT bool DisplaySciCalc(const std::string& Title, Extended& Value,
+                                          std::uint8_t Decimals, bool Flat,
+                                          QWidget* parent = nullptr);
 // The same with the form's left and top (-1 keeps the centred coordinate).
-bool DisplaySciCalcPos(const std::string& Title, Extended& Value, std::int32_t X, std::int32_t Y,
-                       const std::string& DispFont, std::uint8_t Decimals, bool Flat);
-bool DisplaySciCalcPos(const std::string& Title, Extended& Value, std::int32_t X, std::int32_t Y,
-                       std::uint8_t Decimals, bool Flat);
+QORKIT_WIDGETS_EXPORT bool DisplaySciCalcPos(const std::string& Title, Extended& Value,
+                                             std::int32_t X, std::int32_t Y,
+                                             const std::string& DispFont, std::uint8_t Decimals,
+                                             bool Flat, QWidget* parent = nullptr);
+QORKIT_WIDGETS_EXPORT bool DisplaySciCalcPos(const std::string& Title, Extended& Value,
+                                             std::int32_t X, std::int32_t Y, std::uint8_t Decimals,
+                                             bool Flat, QWidget* parent = nullptr);
 
 } // namespace qorkit

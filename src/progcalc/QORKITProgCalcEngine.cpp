@@ -1132,4 +1132,29 @@ std::span<const TQORProgKey> ProgEngineKeys() { return kProgKeys; }
 
 std::span<const TQORProgCountedKey> ProgEngineCountedKeys() { return kProgCountedKeys; }
 
+bool PressProgKey(IQORProgCalcEngine& engine, std::string_view name)
+{
+    if (name.size() == 1 && std::isxdigit(static_cast<unsigned char>(name[0]))) {
+        engine.InputDigit(static_cast<char>(std::toupper(static_cast<unsigned char>(name[0]))));
+        return true;
+    }
+    for (const auto& key : kProgKeys) {
+        if (key.Name == name) {
+            key.Press(engine);
+            return true;
+        }
+    }
+    const std::string_view word = name.substr(0, name.find(' '));
+    const std::string_view count = name.size() > word.size() ? name.substr(word.size() + 1) : "1";
+    const bool digits = !count.empty() && count.size() <= 2
+        && count.find_first_not_of("0123456789") == std::string_view::npos;
+    for (const auto& key : kProgCountedKeys) {
+        if (key.Name == word && digits) {
+            (engine.*(key.Press))(std::stoi(std::string(count)));
+            return true;
+        }
+    }
+    return false;
+}
+
 } // namespace qorkit

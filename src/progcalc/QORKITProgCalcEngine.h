@@ -365,4 +365,9 @@ struct TQORProgCountedKey {
 };
 std::span<const TQORProgCountedKey> ProgEngineCountedKeys();
 
+// Presses one key by name: a digit ("7", "F"), a key of ProgEngineKeys, or a counted key with
+// its count ("SHL 4"; alone it moves one bit). Returns false for any other name, and presses
+// nothing then.
+bool PressProgKey(IQORProgCalcEngine& engine, std::string_view name);
+
 } // namespace qorkit

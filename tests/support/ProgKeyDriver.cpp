@@ -94,28 +94,15 @@ ProgKeyDriver& ProgKeyDriver::Press(std::string_view keys)
 }
 
 // A bracketed word is a key of the engine's table ("[MC]", "[HEX]"), a word size ("[16]"), or a
-// counted key with its count ("[SHL 4]").
+// counted key with its count ("[SHL 4]"), pressed the way PressProgKey presses named keys.
 void ProgKeyDriver::PressWord(const std::string& word)
 {
     const bool size = !word.empty() && std::all_of(word.begin(), word.end(), [](char c) {
         return std::isdigit(static_cast<unsigned char>(c)) != 0;
     });
     const std::string name = size ? "BITS" + word : word;
-    for (const auto& key : ProgEngineKeys()) {
-        if (key.Name == name) {
-            key.Press(*engine_);
-            return;
-        }
-    }
-    const std::size_t blank = word.find(' ');
-    if (blank != std::string::npos) {
-        for (const auto& key : ProgEngineCountedKeys()) {
-            if (key.Name == std::string_view(word).substr(0, blank)) {
-                ((*engine_).*(key.Press))(std::stoi(word.substr(blank + 1)));
-                return;
-            }
-        }
-    }
+    if (PressProgKey(*engine_, name))
+        return;
     throw std::invalid_argument("unknown key [" + word + "]");
 }
 

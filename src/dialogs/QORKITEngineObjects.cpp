@@ -1,0 +1,212 @@
+#include "QORKITEngineObjects.h"
+
+#include <cmath>
+
+namespace qorkit {
+
+namespace {
+
+QString ToQ(const std::string& s) { return QString::fromStdString(s); }
+
+// Calls `signal` on `front` when `cache` differs from `value`, after taking the value over.
+template<class Front, class T, class Arg>
+void SignalIfChanged(Front* front, T& cache, T value, void (Front::*signal)(Arg))
+{
+    if (AssignChanged(cache, value))
+        (front->*signal)(static_cast<Arg>(value));
+}
+
+} // namespace
+
+// ---- TQORCalcEngineObject ------------------------------------------------------------------
+
+TQORCalcEngineObject::TQORCalcEngineObject(QObject* parent)
+    : QObject(parent), owned_(std::make_unique<TQORCalcEngine>()), engine_(owned_.get())
+{
+    Attach();
+}
+
+TQORCalcEngineObject::TQORCalcEngineObject(TQORCalcEngine& engine, QObject* parent)
+    : QObject(parent), engine_(&engine)
+{
+    Attach();
+}
+
+TQORCalcEngineObject::~TQORCalcEngineObject()
+{
+    if (!owned_) {
+        // The engine lives on: it must not call into a front that is gone.
+        engine_->SetOnDisplayChange({});
+        engine_->SetOnHistoryChange({});
+        engine_->SetOnError({});
+        engine_->SetOnMemoryChange({});
+        engine_->SetOnDecimalPlacesChange({});
+        engine_->SetOnAngleModeChange({});
+        engine_->SetOnSetToggles({});
+        engine_->SetOnClearToggles({});
+    }
+}
+
+void TQORCalcEngineObject::Attach()
+{
+    decimalPlaces_ = engine_->GetDecimalPlaces();
+    angleMode_ = engine_->GetAngleMode();
+    memory_ = engine_->GetMemoryValue();
+    engine_->SetOnDisplayChange([this](TQORCalcEngine*) { Q_EMIT displayChange(); });
+    engine_->SetOnHistoryChange([this](TQORCalcEngine*) { Q_EMIT historyChange(); });
+    engine_->SetOnError([this](TQORCalcEngine*) { Q_EMIT error(); });
+    engine_->SetOnMemoryChange([this](TQORCalcEngine* engine) {
+        Q_EMIT memoryChange();
+        if (AssignChanged(memory_, engine->GetMemoryValue()))
+            Q_EMIT memoryChanged(static_cast<double>(memory_));
+    });
+    engine_->SetOnDecimalPlacesChange([this](TQORCalcEngine* engine) {
+        Q_EMIT decimalPlacesChange();
+        SignalIfChanged(this, decimalPlaces_, int {engine->GetDecimalPlaces()},
+                        &TQORCalcEngineObject::decimalPlacesChanged);
+    });
+    engine_->SetOnAngleModeChange([this](TQORCalcEngine* engine) {
+        Q_EMIT angleModeChange();
+        SignalIfChanged(this, angleMode_, engine->GetAngleMode(),
+                        &TQORCalcEngineObject::angleModeChanged);
+    });
+    engine_->SetOnSetToggles([this](TQORCalcEngine*) {
+        Q_EMIT setToggles();
+        Q_EMIT togglesChange();
+    });
+    engine_->SetOnClearToggles([this](TQORCalcEngine*) {
+        Q_EMIT clearToggles();
+        Q_EMIT togglesChange();
+    });
+}
+
+QString TQORCalcEngineObject::GetDisplayText() const { return ToQ(engine_->GetDisplayStr()); }
+QString TQORCalcEngineObject::GetMemoryText() const { return ToQ(engine_->GetMemoryContents()); }
+QString TQORCalcEngineObject::GetLastError() const { return ToQ(engine_->GetLastError()); }
+
+QStringList TQORCalcEngineObject::GetTape() const
+{
+    QStringList lines;
+    for (const auto& line : engine_->GetHistory())
+        lines << ToQ(line);
+    return lines;
+}
+
+void TQORCalcEngineObject::SetDecimalPlaces(int value)
+{
+    if (value >= 0 && value <= 18)
+        engine_->SetDecimalPlaces(static_cast<std::uint8_t>(value));
+}
+
+void TQORCalcEngineObject::SetAngleMode(TQORAngleMode value)
+{
+    if (value <= amGradians && value != engine_->GetAngleMode())
+        engine_->SetAngleMode(value);
+}
+
+void TQORCalcEngineObject::SetMemory(double value)
+{
+    if (std::isfinite(value))
+        engine_->SetMemory(value);
+}
+
+bool TQORCalcEngineObject::PressKey(const QString& name)
+{
+    return PressCalcKey(*engine_, name.toStdString());
+}
+
+// ---- TQORProgCalcEngineObject --------------------------------------------------------------
+
+TQORProgCalcEngineObject::TQORProgCalcEngineObject(QObject* parent)
+    : QObject(parent), owned_(std::make_unique<TQORProgCalcEngine>()), engine_(owned_.get())
+{
+    Attach();
+}
+
+TQORProgCalcEngineObject::TQORProgCalcEngineObject(IQORProgCalcEngine& engine, QObject* parent)
+    : QObject(parent), engine_(&engine)
+{
+    Attach();
+}
+
+TQORProgCalcEngineObject::~TQORProgCalcEngineObject()
+{
+    if (!owned_) {
+        engine_->SetOnDisplayChange({});
+        engine_->SetOnHistoryChange({});
+        engine_->SetOnError({});
+        engine_->SetOnMemoryChange({});
+        engine_->SetOnBaseDisplayChange({});
+        engine_->SetOnBitSizeChange({});
+        engine_->SetOnSpacingChange({});
+        engine_->SetOnSizeChangeChange({});
+    }
+}
+
+void TQORProgCalcEngineObject::Attach()
+{
+    baseDisplay_ = engine_->GetBaseDisplay();
+    bitSize_ = engine_->GetBitSize();
+    memory_ = engine_->GetMemoryValue();
+    engine_->SetOnDisplayChange([this](IQORProgCalcEngine*) { Q_EMIT displayChange(); });
+    engine_->SetOnHistoryChange([this](IQORProgCalcEngine*) { Q_EMIT historyChange(); });
+    engine_->SetOnError([this](IQORProgCalcEngine*) { Q_EMIT error(); });
+    engine_->SetOnMemoryChange([this](IQORProgCalcEngine* engine) {
+        Q_EMIT memoryChange();
+        SignalIfChanged(this, memory_, engine->GetMemoryValue(),
+                        &TQORProgCalcEngineObject::memoryChanged);
+    });
+    engine_->SetOnBaseDisplayChange([this](IQORProgCalcEngine* engine) {
+        Q_EMIT baseDisplayChange();
+        SignalIfChanged(this, baseDisplay_, engine->GetBaseDisplay(),
+                        &TQORProgCalcEngineObject::baseDisplayChanged);
+    });
+    engine_->SetOnBitSizeChange([this](IQORProgCalcEngine* engine) {
+        Q_EMIT bitSizeChange();
+        SignalIfChanged(this, bitSize_, engine->GetBitSize(),
+                        &TQORProgCalcEngineObject::bitSizeChanged);
+    });
+    engine_->SetOnSpacingChange([this](IQORProgCalcEngine*) { Q_EMIT spacingChange(); });
+    engine_->SetOnSizeChangeChange([this](IQORProgCalcEngine*) { Q_EMIT sizeChangeChange(); });
+}
+
+QString TQORProgCalcEngineObject::GetDisplayText() const { return ToQ(engine_->GetDisplayStr()); }
+QString TQORProgCalcEngineObject::GetMemoryText() const
+{
+    return ToQ(engine_->GetMemoryContents());
+}
+QString TQORProgCalcEngineObject::GetLastError() const { return ToQ(engine_->GetLastError()); }
+
+QStringList TQORProgCalcEngineObject::GetTape() const
+{
+    QStringList lines;
+    const std::int32_t count = engine_->GetHistoryLength();
+    for (std::int32_t i = 0; i < count; ++i)
+        lines << ToQ(engine_->GetHistoryEntry(static_cast<std::uint16_t>(i)));
+    return lines;
+}
+
+void TQORProgCalcEngineObject::SetBaseDisplay(TQORBaseDisplay value)
+{
+    if (value <= bdOctal && value != engine_->GetBaseDisplay())
+        engine_->SetBaseDisplay(value);
+}
+
+void TQORProgCalcEngineObject::SetBitSize(TQORBitSize value)
+{
+    if (value <= bs64Bits && value != engine_->GetBitSize())
+        engine_->SetBitSize(value);
+}
+
+void TQORProgCalcEngineObject::SetMemory(qint64 value)
+{
+    if (value != engine_->GetMemoryValue())
+        engine_->SetMemory(value);
+}
+
+bool TQORProgCalcEngineObject::PressKey(const QString& name)
+{
+    return PressProgKey(*engine_, name.toStdString());
+}
+
+} // namespace qorkit
