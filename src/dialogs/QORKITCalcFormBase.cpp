@@ -420,8 +420,9 @@ void TQORCalcFormBase::showEvent(QShowEvent* event)
             QScreen* screen = QGuiApplication::primaryScreen();
             area = screen != nullptr ? screen->availableGeometry() : QRect();
         }
+        // The window frame is centred, as far as the window system has told its size.
         if (area.isValid())
-            topLeft = area.center() - rect().center();
+            topLeft = area.center() - QRect(QPoint(0, 0), frameGeometry().size()).center();
         if (explicitLeft_ != -1)
             topLeft.setX(explicitLeft_);
         if (explicitTop_ != -1)

@@ -183,7 +183,7 @@ TEST_F(CalculatorTest, DisplayCalcPosWithOnlyTopMovesOnlyTheTop)
     QSize size;
     WhenModal<TQORCalcForm>([&](TQORCalcForm& form) {
         where = form.pos();
-        size = form.size();
+        size = form.frameGeometry().size(); // the window with its frame is centred
         form.ExitBtn->click();
     });
     Extended value = 0;

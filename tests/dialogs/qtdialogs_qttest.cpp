@@ -184,11 +184,13 @@ TEST_F(QtDialogTest, SwitchingTheTranslatorRetranslatesAnOpenDialog)
     EXPECT_EQ(form.windowTitle(), QStringLiteral("Calculator"));
     TestTranslator translator;
     ASSERT_TRUE(QCoreApplication::installTranslator(&translator));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange); // Qt posts the change
     EXPECT_EQ(form.windowTitle(), QStringLiteral("Rechner"));
     EXPECT_EQ(form.MemoryClearBtn->text(), QStringLiteral("SL"));
     EXPECT_EQ(titled.MemoryClearBtn->text(), QStringLiteral("SL"));
     EXPECT_EQ(titled.windowTitle(), QStringLiteral("Bits")) << "the host's caption stays";
     QCoreApplication::removeTranslator(&translator);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
     EXPECT_EQ(form.windowTitle(), QStringLiteral("Calculator"));
     EXPECT_EQ(form.MemoryClearBtn->text(), QStringLiteral("MC"));
 }

@@ -179,7 +179,7 @@ TEST_F(LineEditAgreementTest, ReadOnlyIsOneStateUnderBothNames)
 struct TextRow {
     const char* Name;
     const char* Typed; // set with QLineEdit::setText
-    double Value; // the value afterwards (the old value 2 when refused)
+    double Value; // the value afterwards (the old value 2 when the text is refused)
     const char* Shown;
 };
 
@@ -187,7 +187,7 @@ const TextRow TextRows[] = {
     {"Number", "12.5", 12.5, "12.50"},
     {"Negative", "-3", -3, "-3.00"},
     {"NotANumber", "abc", 2, "2.00"},
-    {"Empty", "", 2, "2.00"},
+    {"Empty", "", 0, "0.00"}, // an empty edit reads as zero
 };
 
 class SetTextTest : public test::GlobalStateTest, public ::testing::WithParamInterface<TextRow> { };
