@@ -16,6 +16,53 @@ void SignalIfChanged(Front* front, T& cache, T value, void (Front::*signal)(Arg)
         (front->*signal)(static_cast<Arg>(value));
 }
 
+using TCalcEventSetter = void (TQORCalcEngine::*)(TQORCalcEngine::TNotifyEvent);
+using TProgEventSetter = void (IQORProgCalcEngine::*)(TQORProgCalcNotifyEvent);
+
+// The event slots of each engine, all taken by a front.
+constexpr TCalcEventSetter CalcEventSetters[] = {
+    &TQORCalcEngine::SetOnDisplayChange,
+    &TQORCalcEngine::SetOnHistoryChange,
+    &TQORCalcEngine::SetOnError,
+    &TQORCalcEngine::SetOnMemoryChange,
+    &TQORCalcEngine::SetOnDecimalPlacesChange,
+    &TQORCalcEngine::SetOnAngleModeChange,
+    &TQORCalcEngine::SetOnSetToggles,
+    &TQORCalcEngine::SetOnClearToggles,
+};
+constexpr TProgEventSetter ProgEventSetters[] = {
+    &IQORProgCalcEngine::SetOnDisplayChange,
+    &IQORProgCalcEngine::SetOnHistoryChange,
+    &IQORProgCalcEngine::SetOnError,
+    &IQORProgCalcEngine::SetOnMemoryChange,
+    &IQORProgCalcEngine::SetOnBaseDisplayChange,
+    &IQORProgCalcEngine::SetOnBitSizeChange,
+    &IQORProgCalcEngine::SetOnSpacingChange,
+    &IQORProgCalcEngine::SetOnSizeChangeChange,
+};
+
+// Events a front passes on as they are: the engine's slot and the front's signal.
+struct TCalcRelay {
+    TCalcEventSetter Setter;
+    void (TQORCalcEngineObject::*Signal)();
+};
+constexpr TCalcRelay CalcRelays[] = {
+    {&TQORCalcEngine::SetOnDisplayChange, &TQORCalcEngineObject::displayChange},
+    {&TQORCalcEngine::SetOnHistoryChange, &TQORCalcEngineObject::historyChange},
+    {&TQORCalcEngine::SetOnError, &TQORCalcEngineObject::error},
+};
+struct TProgRelay {
+    TProgEventSetter Setter;
+    void (TQORProgCalcEngineObject::*Signal)();
+};
+constexpr TProgRelay ProgRelays[] = {
+    {&IQORProgCalcEngine::SetOnDisplayChange, &TQORProgCalcEngineObject::displayChange},
+    {&IQORProgCalcEngine::SetOnHistoryChange, &TQORProgCalcEngineObject::historyChange},
+    {&IQORProgCalcEngine::SetOnError, &TQORProgCalcEngineObject::error},
+    {&IQORProgCalcEngine::SetOnSpacingChange, &TQORProgCalcEngineObject::spacingChange},
+    {&IQORProgCalcEngine::SetOnSizeChangeChange, &TQORProgCalcEngineObject::sizeChangeChange},
+};
+
 } // namespace
 
 // ---- TQORCalcEngineObject ------------------------------------------------------------------
@@ -34,16 +81,10 @@ TQORCalcEngineObject::TQORCalcEngineObject(TQORCalcEngine& engine, QObject* pare
 
 TQORCalcEngineObject::~TQORCalcEngineObject()
 {
+    // A host's engine lives on: it must not call into a front that is gone.
     if (!owned_) {
-        // The engine lives on: it must not call into a front that is gone.
-        engine_->SetOnDisplayChange({});
-        engine_->SetOnHistoryChange({});
-        engine_->SetOnError({});
-        engine_->SetOnMemoryChange({});
-        engine_->SetOnDecimalPlacesChange({});
-        engine_->SetOnAngleModeChange({});
-        engine_->SetOnSetToggles({});
-        engine_->SetOnClearToggles({});
+        for (const auto setter : CalcEventSetters)
+            (engine_->*setter)({});
     }
 }
 
@@ -52,9 +93,9 @@ void TQORCalcEngineObject::Attach()
     decimalPlaces_ = engine_->GetDecimalPlaces();
     angleMode_ = engine_->GetAngleMode();
     memory_ = engine_->GetMemoryValue();
-    engine_->SetOnDisplayChange([this](TQORCalcEngine*) { Q_EMIT displayChange(); });
-    engine_->SetOnHistoryChange([this](TQORCalcEngine*) { Q_EMIT historyChange(); });
-    engine_->SetOnError([this](TQORCalcEngine*) { Q_EMIT error(); });
+    for (const auto& relay : CalcRelays)
+        (engine_->*relay.Setter)(
+            [this, signal = relay.Signal](TQORCalcEngine*) { (this->*signal)(); });
     engine_->SetOnMemoryChange([this](TQORCalcEngine* engine) {
         Q_EMIT memoryChange();
         if (AssignChanged(memory_, engine->GetMemoryValue()))
@@ -132,14 +173,8 @@ TQORProgCalcEngineObject::TQORProgCalcEngineObject(IQORProgCalcEngine& engine, Q
 TQORProgCalcEngineObject::~TQORProgCalcEngineObject()
 {
     if (!owned_) {
-        engine_->SetOnDisplayChange({});
-        engine_->SetOnHistoryChange({});
-        engine_->SetOnError({});
-        engine_->SetOnMemoryChange({});
-        engine_->SetOnBaseDisplayChange({});
-        engine_->SetOnBitSizeChange({});
-        engine_->SetOnSpacingChange({});
-        engine_->SetOnSizeChangeChange({});
+        for (const auto setter : ProgEventSetters)
+            (engine_->*setter)({});
     }
 }
 
@@ -148,9 +183,10 @@ void TQORProgCalcEngineObject::Attach()
     baseDisplay_ = engine_->GetBaseDisplay();
     bitSize_ = engine_->GetBitSize();
     memory_ = engine_->GetMemoryValue();
-    engine_->SetOnDisplayChange([this](IQORProgCalcEngine*) { Q_EMIT displayChange(); });
-    engine_->SetOnHistoryChange([this](IQORProgCalcEngine*) { Q_EMIT historyChange(); });
-    engine_->SetOnError([this](IQORProgCalcEngine*) { Q_EMIT error(); });
+    for (const auto& relay : ProgRelays) {
+        (engine_->*relay.Setter)(
+            [this, signal = relay.Signal](IQORProgCalcEngine*) { (this->*signal)(); });
+    }
     engine_->SetOnMemoryChange([this](IQORProgCalcEngine* engine) {
         Q_EMIT memoryChange();
         SignalIfChanged(this, memory_, engine->GetMemoryValue(),
@@ -166,8 +202,6 @@ void TQORProgCalcEngineObject::Attach()
         SignalIfChanged(this, bitSize_, engine->GetBitSize(),
                         &TQORProgCalcEngineObject::bitSizeChanged);
     });
-    engine_->SetOnSpacingChange([this](IQORProgCalcEngine*) { Q_EMIT spacingChange(); });
-    engine_->SetOnSizeChangeChange([this](IQORProgCalcEngine*) { Q_EMIT sizeChangeChange(); });
 }
 
 QString TQORProgCalcEngineObject::GetDisplayText() const { return ToQ(engine_->GetDisplayStr()); }

@@ -1146,7 +1146,7 @@ bool PressProgKey(IQORProgCalcEngine& engine, std::string_view name)
     }
     const std::string_view word = name.substr(0, name.find(' '));
     const std::string_view count = name.size() > word.size() ? name.substr(word.size() + 1) : "1";
-    const bool digits = !count.empty() && count.size() <= 2
+    const bool digits = !count.empty() && count.size() <= 9
         && count.find_first_not_of("0123456789") == std::string_view::npos;
     for (const auto& key : kProgCountedKeys) {
         if (key.Name == word && digits) {
