@@ -110,6 +110,7 @@ TEST_F(QtDialogTest, ComponentOpensOverItsOwnersWindow)
     auto* panel = new QWidget(&host_); // the owner is a widget inside the window
     TQORProgCalculator calculator(panel);
     calculator.SetPosition(poMainFormCenter);
+    QSignalSpy started(&calculator, &TQORCalcComponent::startCalculator);
     int shown = 0;
     WhenModal<TQORProgCalcForm>([&](TQORProgCalcForm& form) {
         ++shown;
@@ -119,6 +120,7 @@ TEST_F(QtDialogTest, ComponentOpensOverItsOwnersWindow)
     });
     EXPECT_TRUE(calculator.Execute());
     EXPECT_EQ(shown, 1);
+    EXPECT_EQ(started.count(), 1); // OnStartCalculator's signal, before the dialog ran
 }
 
 TEST_F(QtDialogTest, TwoListenersFollowTheEngineOfAnOpenDialog)

@@ -132,6 +132,20 @@ TEST_F(QtEventsTest, AnEventReachesItsHandlerAndEveryListener)
     EXPECT_EQ(signs.at(0).at(0).toInt(), -1);
 }
 
+TEST_F(QtEventsTest, ArrowClicksSignalBeforeAndAfterTheStep)
+{
+    TQORFloatSpinEdit spin;
+    std::vector<std::string> heard;
+    const auto record
+        = [&](const char* what) { return [&heard, what] { heard.emplace_back(what); }; };
+    QObject::connect(&spin, &TQORBaseSpinEdit::upClick, &spin, record("up"));
+    QObject::connect(&spin, &TQORBaseSpinEdit::valueChanged, &spin, record("value"));
+    QObject::connect(&spin, &TQORBaseSpinEdit::afterUpClick, &spin, record("after"));
+    spin.UpClick(&spin);
+    EXPECT_EQ(heard, (std::vector<std::string> {"up", "value", "after"}));
+    EXPECT_EQ(static_cast<double>(spin.GetValue()), 1.0);
+}
+
 TEST_F(QtEventsTest, SpecialColorListenersMayChangeTheColours)
 {
     TQORFloatEdit edit;
