@@ -5,6 +5,7 @@
 #include "QORKITBaseEdit.h"
 #include "QORKITCalcFormBase.h"
 #include "QORKITCalculator.h"
+#include "QORKITConvertors.h"
 #include "QORKITEditColors.h"
 #include "QORKITEngineObjects.h"
 #include "QORKITFloatCalcComponent.h"
@@ -29,30 +30,33 @@ namespace qorkit {
 namespace {
 
 // Every QObject class of the library.
-const QMetaObject* const LibraryClasses[] = {
-    &TQOREditColorSet::staticMetaObject,
-    &TQORUICtrl::staticMetaObject,
-    &TQORLook::staticMetaObject,
-    &TQORBaseEdit::staticMetaObject,
-    &TQORStartEdit::staticMetaObject,
-    &TQORFloatEdit::staticMetaObject,
-    &TQORBaseSpinEdit::staticMetaObject,
-    &TQORFloatSpinEdit::staticMetaObject,
-    &TQORBaseComboBox::staticMetaObject,
-    &TQORBasePanel::staticMetaObject,
-    &TQORStoreCtrl::staticMetaObject,
-    &TQORCalcFormBase::staticMetaObject,
-    &TQORFloatCalcForm::staticMetaObject,
-    &TQORCalcForm::staticMetaObject,
-    &TQORSciCalcForm::staticMetaObject,
-    &TQORProgCalcForm::staticMetaObject,
-    &TQORCalcComponent::staticMetaObject,
-    &TQORFloatCalcComponent::staticMetaObject,
-    &TQORCalculator::staticMetaObject,
-    &TQORSciCalculator::staticMetaObject,
-    &TQORProgCalculator::staticMetaObject,
-    &TQORCalcEngineObject::staticMetaObject,
-    &TQORProgCalcEngineObject::staticMetaObject,
+const QMetaObject* const LibraryClasses[] = {&TQOREditColorSet::staticMetaObject,
+                                             &TQORUICtrl::staticMetaObject,
+                                             &TQORLook::staticMetaObject,
+                                             &TQORBaseEdit::staticMetaObject,
+                                             &TQORStartEdit::staticMetaObject,
+                                             &TQORFloatEdit::staticMetaObject,
+                                             &TQORBaseSpinEdit::staticMetaObject,
+                                             &TQORFloatSpinEdit::staticMetaObject,
+                                             &TQORBaseComboBox::staticMetaObject,
+                                             &TQORBasePanel::staticMetaObject,
+                                             &TQORStoreCtrl::staticMetaObject,
+                                             &TQORCalcFormBase::staticMetaObject,
+                                             &TQORFloatCalcForm::staticMetaObject,
+                                             &TQORCalcForm::staticMetaObject,
+                                             &TQORSciCalcForm::staticMetaObject,
+                                             &TQORProgCalcForm::staticMetaObject,
+                                             &TQORCalcComponent::staticMetaObject,
+                                             &TQORFloatCalcComponent::staticMetaObject,
+                                             &TQORCalculator::staticMetaObject,
+                                             &TQORSciCalculator::staticMetaObject,
+                                             &TQORProgCalculator::staticMetaObject,
+                                             &TQORCalcEngineObject::staticMetaObject,
+                                             &TQORProgCalcEngineObject::staticMetaObject,
+                                             &TQORBaseConvertor::staticMetaObject,
+#define QORKIT_SURVEY_CONVERTOR(convertor, type, key) &convertor::staticMetaObject,
+                                             QORKIT_CONVERTOR_LIST(QORKIT_SURVEY_CONVERTOR)
+#undef QORKIT_SURVEY_CONVERTOR
 };
 
 // Transient properties that Qt's own line edit also leaves without a change signal.
