@@ -3,7 +3,9 @@
 //
 // The engine owns no user interface. A host calls one operation per key press and reads back
 // the display string, the display value, the paper tape and the last error; it learns of
-// changes through optional notification events that receive the engine as sender.
+// changes through optional notification events that receive the engine as sender. Each event
+// holds one handler, so the events belong to whoever owns the engine; Qt code follows an
+// engine through its TQORCalcEngineObject (QORKITEngineObjects.h) instead.
 //
 // Numbers are Extended (80-bit). Operands and pending operators live on two stacks; operator
 // keys reduce them shunting-yard style, with or without precedence. Every computing operation

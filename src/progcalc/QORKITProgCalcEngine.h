@@ -9,6 +9,8 @@
 //
 // A failure inside an operation never leaves it: the engine clears itself, shows "Error!",
 // keeps the message for GetLastError, writes the error line to the history and calls OnError.
+// Each OnX holds one handler, so the events belong to whoever owns the engine; Qt code follows
+// an engine through its TQORProgCalcEngineObject (QORKITEngineObjects.h) instead.
 #pragma once
 
 #include "QORKITTypes.h"
