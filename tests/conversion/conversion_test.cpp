@@ -1,3 +1,4 @@
+#include "QORKITConstants.h"
 #include "QORKITConversion.h"
 #include "QORKITExceptions.h"
 #include "QORKITMath.h"
@@ -349,6 +350,57 @@ TEST(ConvertUnits, RejectsWhatItCannotConvert)
     EXPECT_THROW(ConvertUnits(ectDistance, edtParsecs, edtFermi, 1e4930L), EOverflow);
     EXPECT_EQ(ConvertUnits(ectDistance, edtMetres, edtMetres, -3), -3);
     EXPECT_EQ(BaseUnit(ectTime), static_cast<std::size_t>(ettDays));
+}
+
+// A vertical slope has no finite grade: 90 degrees and its kin overflow instead of giving a huge
+// number of either sign; angles just off vertical still convert.
+TEST(ConvertUnits, VerticalSlopesOverflow)
+{
+    for (const auto slope : {eatGrade, eatGradePerMil, eatRiseRatio}) {
+        for (const Extended degrees : {90.0L, -90.0L, 270.0L, -450.0L}) {
+            SCOPED_TRACE(static_cast<double>(degrees));
+            EXPECT_THROW(ConvertUnit(eatDegrees, slope, degrees), EOverflow);
+        }
+        EXPECT_THROW(ConvertUnit(eatRadians, slope, QORPi / 2), EOverflow);
+        EXPECT_THROW(ConvertUnit(eatQuadrants, slope, 1.0L), EOverflow);
+        EXPECT_THROW(ConvertUnit(eatGrads, slope, 100.0L), EOverflow);
+        EXPECT_THROW(UnitFromBase(ectAngles, slope, QORPi / 2), EOverflow);
+        EXPECT_GT(ConvertUnit(eatDegrees, slope, 89.999L), 0);
+        EXPECT_LT(ConvertUnit(eatDegrees, slope, 90.001L), 0);
+    }
+    EXPECT_TRUE(Near(ConvertUnit(eatDegrees, eatGrade, -45.0L), -100, 1e-15L));
+    EXPECT_TRUE(Near(ConvertUnit(eatDegrees, eatRiseRatio, 180.0L), 0, 1e-15L));
+}
+
+// The single steps into and out of the base raise as ConvertUnits does: no infinity, no NaN,
+// for every unit at the top of the range.
+TEST(ConvertUnits, StepsIntoAndOutOfTheBaseNeverLeaveTheRange)
+{
+    int raised = 0;
+    for (std::size_t q = 0; q < QORConvTypeStr.size(); ++q) {
+        const auto quantity = static_cast<TQORConvType>(q);
+        for (std::size_t unit = 0; unit < UnitCount(quantity); ++unit) {
+            for (const Extended value : {1e4930L, -1e4930L, 1e-4930L}) {
+                for (const auto step : {&UnitToBase, &UnitFromBase}) {
+                    try {
+                        const Extended result = step(quantity, unit, value);
+                        EXPECT_TRUE(std::isfinite(result))
+                            << UnitMemberName(quantity, unit) << " " << static_cast<double>(value);
+                    } catch (const EMathError&) {
+                        ++raised;
+                    }
+                }
+            }
+            EXPECT_THROW(UnitToBase(quantity, unit, std::nanl("")), EInvalidOp);
+        }
+    }
+    EXPECT_GT(raised, 300);
+}
+
+// A reciprocal unit must not turn an overflow on the way into the base into zero.
+TEST(ConvertUnits, OverflowIntoTheBaseIsNotHiddenByAReciprocal)
+{
+    EXPECT_THROW(ConvertUnit(eftMilesPerLitre, eftLitresPer100Kilometres, 1e4932L), EOverflow);
 }
 
 } // namespace
