@@ -139,9 +139,9 @@ inline constexpr TQORUnitAlias QORUnitAliases[] = {
 
     // Velocity
     UnitAlias("m/s", evtMetresPerSec), UnitAlias("meters per second", evtMetresPerSec),
-    UnitAlias("km/h", evtKilometresPerHr), UnitAlias("kph", evtKilometresPerHr),
+    UnitAlias("km/h", evtKilometresPerHr),
     UnitAlias("kmh", evtKilometresPerHr), UnitAlias("kilometers per hour", evtKilometresPerHr),
-    UnitAlias("mph", evtMilesPerHr), UnitAlias("mi/h", evtMilesPerHr),
+    UnitAlias("mi/h", evtMilesPerHr),
     UnitAlias("ft/s", evtFeetPerSec), UnitAlias("fps", evtFeetPerSec),
     UnitAlias("kn", evtKnotsUK), UnitAlias("kt", evtKnotsUK), UnitAlias("knot", evtKnotsUK),
     UnitAlias("knots", evtKnotsUK),

@@ -3,13 +3,18 @@
 #include "QORKITExceptions.h"
 #include "QORKITMath.h"
 #include "QORKITResource.h"
+#include "QORKITUnitAliases.h"
 #include "QORKIT_RS_UC.h"
 #include "QorkitTestSupport.h"
 
 #include <gtest/gtest.h>
 
+#include <cctype>
 #include <cmath>
+#include <set>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace qorkit {
@@ -401,6 +406,28 @@ TEST(ConvertUnits, StepsIntoAndOutOfTheBaseNeverLeaveTheRange)
 TEST(ConvertUnits, OverflowIntoTheBaseIsNotHiddenByAReciprocal)
 {
     EXPECT_THROW(ConvertUnit(eftMilesPerLitre, eftLitresPer100Kilometres, 1e4932L), EOverflow);
+}
+
+// The spellings people type: each names a real unit, none is given twice within a quantity
+// (ASCII case aside), and none repeats a display name of its quantity.
+TEST(UnitAliases, EachSpellingNamesOneUnitOfItsQuantity)
+{
+    const auto lower = [](std::string_view text) {
+        std::string result(text);
+        for (char& c : result)
+            c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+        return result;
+    };
+    std::set<std::pair<TQORConvType, std::string>> seen;
+    for (const auto& alias : QORUnitAliases) {
+        SCOPED_TRACE(std::string(alias.Alias));
+        ASSERT_LT(alias.Unit, UnitCount(alias.Quantity));
+        EXPECT_FALSE(UnitName(alias.Quantity, alias.Unit).empty());
+        EXPECT_TRUE(seen.emplace(alias.Quantity, lower(alias.Alias)).second) << "given twice";
+        for (std::size_t unit = 0; unit < UnitCount(alias.Quantity); ++unit)
+            EXPECT_NE(lower(UnitName(alias.Quantity, unit)), lower(alias.Alias));
+    }
+    EXPECT_EQ(QORUnitAliases[0].Quantity, ectTemperature);
 }
 
 } // namespace
