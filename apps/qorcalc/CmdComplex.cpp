@@ -157,9 +157,9 @@ std::string Usage()
     for (const auto& b : kBinary)
         text += std::string(" ") + b.name;
     text += "\n  one operand:";
-    std::size_t line = 0;
+    std::size_t count = 0;
     for (const auto& u : kUnary) {
-        if (++line % 12 == 0)
+        if (count++ % 11 == 10)
             text += "\n              ";
         text += std::string(" ") + u.name;
     }
