@@ -3,22 +3,32 @@
 #include "QORKITStrings.h"
 #include "QorcalcCommands.h"
 
+#include <cstdint>
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
 
 using qorkit::TQORComplex;
 
-// "RE,IM" or a bare real number.
+// "RE,IM" or a bare real number. The comma divides the parts, so the parts take no thousands
+// separators: "1,2,3" is refused rather than read as 1 + 23i.
 TQORComplex ParseComplex(const std::string& text)
 {
     const auto comma = text.find(',');
     if (comma == std::string::npos)
-        return {qorkit::Str2Float(text), 0};
-    return {qorkit::Str2Float(text.substr(0, comma)), qorkit::Str2Float(text.substr(comma + 1))};
+        return {qorcalc::ParseNumber(text, "complex number", false), 0};
+    if (text.find(',', comma + 1) != std::string::npos)
+        throw qorcalc::UsageError("complex number '" + text
+                                  + "': expected RE,IM with one comma and no thousands separators");
+    return {qorcalc::ParseNumber(text.substr(0, comma), "real part of " + text, false),
+            qorcalc::ParseNumber(text.substr(comma + 1), "imaginary part of " + text, false)};
 }
+
+// The most roots `complex roots` lists.
+constexpr std::int64_t kMaxRoots = 1000;
 
 struct Unary {
     const char* name;
@@ -67,6 +77,21 @@ constexpr Unary kUnary[] = {
     {"arcosech", qorkit::ComplexArCosech},
 };
 
+// Other spellings of the inverse hyperbolic functions ("arctanh" as well as "artanh").
+constexpr std::pair<const char*, const char*> kAliases[] = {
+    {"arcsinh", "arsinh"}, {"arccosh", "arcosh"}, {"arctanh", "artanh"},
+    {"arccoth", "arcoth"}, {"arcsech", "arsech"}, {"arccosech", "arcosech"},
+    {"asinh", "arsinh"},   {"acosh", "arcosh"},   {"atanh", "artanh"},
+};
+
+std::string Canonical(const std::string& op)
+{
+    for (const auto& [alias, name] : kAliases)
+        if (op == alias)
+            return name;
+    return op;
+}
+
 constexpr Binary kBinary[] = {
     {"add", qorkit::ComplexAdd},      {"sub", qorkit::ComplexSubtract},
     {"mul", qorkit::ComplexMultiply}, {"div", qorkit::ComplexDivide},
@@ -84,16 +109,19 @@ int RunComplex(const std::vector<std::string>& arguments, std::ostream& out, std
     auto args = arguments;
     std::string decimalsText = "6";
     qorcalc::TakeOption(args, "--decimals", decimalsText);
-    const auto decimals = static_cast<std::uint8_t>(qorkit::Str2Int(decimalsText) & 0xFF);
+    qorcalc::EndOptions(args);
+    const auto decimals
+        = static_cast<std::uint8_t>(qorcalc::ParseWhole(decimalsText, "--decimals", 0, 30));
     if (args.empty()) {
         err << "qorcalc complex: expected OP and operands (see qorcalc complex --help)\n";
         return 2;
     }
-    const std::string& op = args[0];
+    const std::string op = Canonical(args[0]);
     if (op == "quadratic" && args.size() == 4) {
         TQORComplex x1, x2;
-        const int n = qorkit::SolveQuadratic(qorkit::Str2Float(args[1]), qorkit::Str2Float(args[2]),
-                                             qorkit::Str2Float(args[3]), x1, x2);
+        const int n = qorkit::SolveQuadratic(qorcalc::ParseNumber(args[1], "A"),
+                                             qorcalc::ParseNumber(args[2], "B"),
+                                             qorcalc::ParseNumber(args[3], "C"), x1, x2);
         out << n << (n == 1 ? " root\n" : " roots\n");
         Print(out, x1, decimals);
         if (n == 2)
@@ -101,9 +129,9 @@ int RunComplex(const std::vector<std::string>& arguments, std::ostream& out, std
         return 0;
     }
     if (op == "roots" && args.size() == 3) {
-        const auto roots = qorkit::ComplexRoots(
-            ParseComplex(args[1]), static_cast<std::uint32_t>(qorkit::Str2Int(args[2])));
-        for (const auto& root : roots)
+        const TQORComplex z = ParseComplex(args[1]);
+        const auto count = qorcalc::ParseWhole(args[2], "the root count N", 1, kMaxRoots);
+        for (const auto& root : qorkit::ComplexRoots(z, static_cast<std::uint32_t>(count)))
             Print(out, root, decimals);
         return 0;
     }
@@ -117,15 +145,33 @@ int RunComplex(const std::vector<std::string>& arguments, std::ostream& out, std
             Print(out, b.fn(ParseComplex(args[1]), ParseComplex(args[2])), decimals);
             return 0;
         }
-    err << "qorcalc complex: unknown operation or wrong operand count: " << op << '\n';
+    err << "qorcalc complex: unknown operation or wrong operand count: " << args[0] << '\n';
     return 2;
 }
 
+// The usage line names every operation of the tables, so it cannot drift from them.
+std::string Usage()
+{
+    std::string text
+        = "OP Z [Z2] [--decimals 0..30]   (Z = RE,IM or a real number)\n  two operands:";
+    for (const auto& b : kBinary)
+        text += std::string(" ") + b.name;
+    text += "\n  one operand:";
+    std::size_t count = 0;
+    for (const auto& u : kUnary) {
+        if (count++ % 11 == 10)
+            text += "\n              ";
+        text += std::string(" ") + u.name;
+    }
+    text += "\n  also:";
+    for (const auto& [alias, name] : kAliases)
+        text += std::string(" ") + alias;
+    text += "\n  roots Z N (N from 1 to " + std::to_string(kMaxRoots) + "), quadratic A B C";
+    return text;
+}
+
 const bool registered = qorcalc::RegisterCommand(
-    {"complex",
-     "OP Z [Z2] [--decimals N]   (Z = RE,IM; OP = add sub mul div pow, sqrt exp ln sin arctanh "
-     "..., "
-     "roots Z N, quadratic A B C)",
-     "complex arithmetic and functions, N-th roots, quadratic equations", RunComplex});
+    {"complex", Usage(), "complex arithmetic and functions, N-th roots, quadratic equations",
+     RunComplex});
 
 } // namespace

@@ -13,12 +13,14 @@ int RunEuro(const std::vector<std::string>& arguments, std::ostream& out, std::o
 {
     auto args = arguments;
     if (qorcalc::TakeFlag(args, "--list")) {
+        qorcalc::EndOptions(args);
         for (const auto& c : qorkit::EMUCurrencies())
             out << c.Code << "  " << qorkit::Float2EStr2(c.Rate, 6) << " per euro  " << c.Country
                 << '\n';
         return 0;
     }
     const bool fromEuro = qorcalc::TakeFlag(args, "--from-euro");
+    qorcalc::EndOptions(args);
     if (args.size() != 2) {
         err << "qorcalc euro: expected CODE AMOUNT (see qorcalc euro --help)\n";
         return 2;
@@ -28,7 +30,7 @@ int RunEuro(const std::vector<std::string>& arguments, std::ostream& out, std::o
         err << "qorcalc euro: unknown currency code " << code << " (see qorcalc euro --list)\n";
         return 2;
     }
-    const auto amount = qorkit::Currency::FromExtended(qorkit::Str2Float(args[1]));
+    const auto amount = qorkit::Currency::FromExtended(qorcalc::ParseNumber(args[1], "AMOUNT"));
     const auto result
         = fromEuro ? qorkit::ConvertEuro2EC(code, amount) : qorkit::ConvertEC2Euro(code, amount);
     out << qorkit::Float2EStr(amount.ToExtended(), 4) << ' ' << (fromEuro ? "EUR" : code) << " = "

@@ -11,10 +11,9 @@
 
 namespace qorcalc {
 
-// Options shared with `qorcalc keys`: the angle mode and the decimals of the display.
-// Returns false (with a message on err) for a bad value.
-bool ApplyEngineOptions(std::vector<std::string>& args, qorkit::TQORCalcEngine& engine,
-                        std::ostream& err)
+// Options shared with `qorcalc keys`: the angle mode and the decimals of the display. Raises
+// UsageError for a bad value.
+void ApplyEngineOptions(std::vector<std::string>& args, qorkit::TQORCalcEngine& engine)
 {
     static constexpr std::pair<const char*, qorkit::TQORAngleMode> modes[] = {
         {"--deg", qorkit::amDegrees}, {"--rad", qorkit::amRadians}, {"--grad", qorkit::amGradians}};
@@ -33,18 +32,9 @@ bool ApplyEngineOptions(std::vector<std::string>& args, qorkit::TQORCalcEngine& 
     if (!TakeOption(args, "--decimals", decimals)) {
         engine.SetTrimTrailingZeroes(true);
         engine.SetDecimalPlaces(12);
-        return true;
+        return;
     }
-    std::int32_t places = -1;
-    try {
-        places = qorkit::Str2Int(decimals);
-    } catch (const std::exception&) { }
-    if (places < 0 || places > 30) {
-        err << "--decimals takes a number from 0 to 30\n";
-        return false;
-    }
-    engine.SetDecimalPlaces(static_cast<std::uint8_t>(places));
-    return true;
+    engine.SetDecimalPlaces(static_cast<std::uint8_t>(ParseWhole(decimals, "--decimals", 0, 30)));
 }
 
 } // namespace qorcalc
@@ -58,6 +48,9 @@ using qorkit::Extended;
 bool EvaluateOne(const std::string& text, bool simple, qorkit::TQORCalcEngine& engine,
                  Extended& memory, std::ostream& out, std::ostream& err)
 {
+    // The engine would take "1,5" as 15 and drop an exponent it cannot hold (1e99999 shows
+    // 9): numbers are checked before it sees them.
+    qorcalc::CheckExpressionNumbers(text);
     std::string error;
     Extended value = 0;
     if (simple) {
@@ -80,8 +73,8 @@ int RunEval(const std::vector<std::string>& arguments, std::ostream& out, std::o
     qorkit::TQORCalcEngine engine;
     engine.SetBinaryPercent(false); // 200+10% is 220, as in the engine-less evaluators
     const bool simple = qorcalc::TakeFlag(args, "--simple");
-    if (!qorcalc::ApplyEngineOptions(args, engine, err))
-        return 2;
+    qorcalc::ApplyEngineOptions(args, engine);
+    qorcalc::EndOptions(args);
     Extended memory = 0;
     if (!args.empty()) {
         std::string text;
@@ -91,9 +84,16 @@ int RunEval(const std::vector<std::string>& arguments, std::ostream& out, std::o
     }
     // One expression per line; memory words work across lines.
     bool allGood = true;
-    for (std::string line; std::getline(std::cin, line);)
-        if (line.find_first_not_of(" \t\r") != std::string::npos)
+    for (std::string line; std::getline(std::cin, line);) {
+        if (line.find_first_not_of(" \t\r") == std::string::npos)
+            continue;
+        try {
             allGood = EvaluateOne(line, simple, engine, memory, out, err) && allGood;
+        } catch (const qorcalc::UsageError& e) {
+            err << e.what() << '\n';
+            allGood = false;
+        }
+    }
     return allGood ? 0 : 1;
 }
 
@@ -102,7 +102,8 @@ const bool registered = qorcalc::RegisterCommand(
      "evaluate an expression such as \"2+3*4\", \"sin 30\" or \"sqrt(2)*pi\" (radians unless "
      "told otherwise; --simple knows only numbers, operators and pi); without EXPR, one "
      "expression per line of standard input, memory words (madd, msub, mr, mc) carrying over. "
-     "Exit code 1 and the error text on stderr for a bad expression",
+     "Exit code 1 and the error text on stderr for a bad expression; 2 for a number that does "
+     "not read (a thousands separator must group three digits) or is out of range",
      RunEval});
 
 } // namespace

@@ -14,7 +14,13 @@ using qorkit::Extended;
 // The full 64-bit patterns of an integer, as the programmer's calculator shows them.
 int RunHex(const std::string& text, std::ostream& out)
 {
-    const std::string hex = qorkit::Int2EHex(qorkit::Str2Int64(text), 16);
+    std::int64_t number = 0;
+    try {
+        number = qorkit::Str2Int64(text);
+    } catch (const std::exception&) {
+        throw qorcalc::UsageError("--hex: '" + text + "' is not a 64-bit integer");
+    }
+    const std::string hex = qorkit::Int2EHex(number, 16);
     struct Row {
         const char* label;
         std::string digits;
@@ -36,6 +42,7 @@ int RunFormat(const std::vector<std::string>& arguments, std::ostream& out, std:
     auto args = arguments;
     std::string hexValue;
     if (qorcalc::TakeOption(args, "--hex", hexValue)) {
+        qorcalc::EndOptions(args);
         if (!args.empty()) {
             err << "qorcalc format: --hex takes one integer and nothing else\n";
             return 2;
@@ -48,17 +55,14 @@ int RunFormat(const std::vector<std::string>& arguments, std::ostream& out, std:
     const bool lakh = qorcalc::TakeFlag(args, "--lakh");
     const bool sci = qorcalc::TakeFlag(args, "--sci");
     const bool trim = qorcalc::TakeFlag(args, "--trim");
+    qorcalc::EndOptions(args);
     if (args.size() != 1) {
         err << "qorcalc format: expected one NUMBER (see qorcalc format --help)\n";
         return 2;
     }
-    const auto decimals = qorkit::Str2Int(decimalsText);
-    if (decimals < 0 || decimals > 255) {
-        err << "qorcalc format: --decimals must lie between 0 and 255\n";
-        return 2;
-    }
-    const Extended value = qorkit::Str2Float(args[0]);
-    const auto places = static_cast<std::uint8_t>(decimals);
+    const auto places
+        = static_cast<std::uint8_t>(qorcalc::ParseWhole(decimalsText, "--decimals", 0, 255));
+    const Extended value = qorcalc::ParseNumber(args[0], "NUMBER");
     if (sci)
         out << qorkit::SciFloat2EStr(value, places) << '\n';
     else if (trim)

@@ -10,8 +10,7 @@
 
 namespace qorcalc {
 // Defined with `qorcalc eval`.
-bool ApplyEngineOptions(std::vector<std::string>& args, qorkit::TQORCalcEngine& engine,
-                        std::ostream& err);
+void ApplyEngineOptions(std::vector<std::string>& args, qorkit::TQORCalcEngine& engine);
 } // namespace qorcalc
 
 namespace {
@@ -56,8 +55,8 @@ int RunKeys(const std::vector<std::string>& arguments, std::ostream& out, std::o
     engine.SetPrecedence(!qorcalc::TakeFlag(args, "--no-precedence"));
     engine.SetOperatorSameLine(qorcalc::TakeFlag(args, "--same-line"));
     engine.SetBinaryPercent(!qorcalc::TakeFlag(args, "--unary-percent"));
-    if (!qorcalc::ApplyEngineOptions(args, engine, err))
-        return 2;
+    qorcalc::ApplyEngineOptions(args, engine);
+    qorcalc::EndOptions(args);
     std::vector<std::string> keys;
     for (const auto& arg : args) {
         std::istringstream words(arg);
@@ -68,6 +67,11 @@ int RunKeys(const std::vector<std::string>& arguments, std::ostream& out, std::o
         err << "qorcalc keys: no keys given (qorcalc keys --list names them)\n";
         return 2;
     }
+    // A number typed as one word ("1,234.5") must read as that number: a thousands separator
+    // only between groups of three digits.
+    for (const auto& key : keys)
+        if (key.size() > 1 && key.find_first_not_of("0123456789.,") == std::string::npos)
+            qorcalc::ParseNumber(key, "key");
     for (const auto& key : keys) {
         if (!qorkit::PressCalcKey(engine, key)) {
             err << "qorcalc keys: unknown key '" << key << "' (qorcalc keys --list names them)\n";

@@ -118,6 +118,7 @@ int RunProg(const std::vector<std::string>& arguments, std::ostream& out, std::o
     qorcalc::TakeOption(args, "--size-change", change);
     const bool noPrecedence = qorcalc::TakeFlag(args, "--no-precedence");
     const bool postfixNot = qorcalc::TakeFlag(args, "--postfix-not");
+    qorcalc::EndOptions(args);
     const int baseIndex = Choice(base, kBases);
     const int bitsIndex = Choice(bits, kBits);
     const int spacingIndex = Choice(spacing, kSpacings);

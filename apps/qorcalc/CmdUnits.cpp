@@ -84,8 +84,10 @@ const char* SourceName(qorkit::TQORFactorSource source)
     return "";
 }
 
-int RunUnits(const std::vector<std::string>& args, std::ostream& out, std::ostream& err)
+int RunUnits(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err)
 {
+    auto args = arguments;
+    EndOptions(args);
     if (args.size() > 1) {
         err << "usage: qorcalc units [QUANTITY]\n";
         return 2;
@@ -98,7 +100,7 @@ int RunUnits(const std::vector<std::string>& args, std::ostream& out, std::ostre
     }
     TQORConvType quantity {};
     if (!FindQuantity(args[0], quantity, err))
-        return 1;
+        return 2;
     if (qorkit::UnitCount(quantity) == 0) {
         err << qorkit::QORConvTypeStr[quantity] << " has no units\n";
         return 1;

@@ -47,6 +47,9 @@ int main(int argc, char** argv)
     }
     try {
         return command->Run(args, std::cout, std::cerr);
+    } catch (const qorcalc::UsageError& e) {
+        std::cerr << "qorcalc " << command->Name << ": " << e.what() << '\n';
+        return 2;
     } catch (const std::exception& e) {
         std::cerr << "qorcalc " << command->Name << ": " << e.what() << '\n';
         return 1;

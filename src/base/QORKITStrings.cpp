@@ -593,11 +593,16 @@ std::string Float2DMSStr(Extended degrees, TQORDMSType type, std::uint8_t decima
     if (type > dmsDegreesMinutesSeconds)
         type = dmsDegreesMinutesSeconds;
     // Round once, in the last unit shown, then carry into the larger units: 59.9999" at two
-    // decimals becomes a whole minute, never "60.00\"".
+    // decimals becomes a whole minute, never "60.00\"". Whole degrees and their fraction are
+    // split first (exactly), so the minutes and seconds keep their digits however large the
+    // angle is.
     static constexpr Extended kPerDegree[] = {1, 60, 3600};
-    FixedText last = FixedOf(std::fabs(degrees) * kPerDegree[type], decimals);
+    const Extended magnitude = std::fabs(degrees);
+    const Extended wholeDegrees = type == dmsDegrees ? 0 : std::trunc(magnitude);
+    FixedText last = FixedOf((magnitude - wholeDegrees) * kPerDegree[type], decimals);
     const bool negative = std::signbit(degrees)
-        && (last.integer != "0" || last.fraction.find_first_not_of('0') != std::string::npos);
+        && (wholeDegrees != 0 || last.integer != "0"
+            || last.fraction.find_first_not_of('0') != std::string::npos);
     if (trimTrailingZeroes)
         DropTrailingZeros(last.fraction);
     std::string lastFraction;
@@ -606,19 +611,18 @@ std::string Float2DMSStr(Extended degrees, TQORDMSType type, std::uint8_t decima
 
     // Whole units: degrees, minutes, seconds (the ones below `type` stay unused).
     std::string units[3];
-    if (type == dmsDegrees || last.integer.size() > 18) {
-        // Beyond 10^18 units nothing below a degree is meaningful: show whole degrees.
-        units[0] = type == dmsDegrees ? last.integer : FixedOf(std::fabs(degrees), 0).integer;
-        for (int u = 1; u <= type; ++u)
-            units[u] = "0";
+    if (type == dmsDegrees) {
+        units[0] = last.integer;
     } else {
-        std::uint64_t whole = 0;
-        std::from_chars(last.integer.data(), last.integer.data() + last.integer.size(), whole);
+        // At most one whole degree of minutes or seconds, after rounding.
+        unsigned below = 0;
+        std::from_chars(last.integer.data(), last.integer.data() + last.integer.size(), below);
         for (int u = type; u > 0; --u) {
-            units[u] = std::to_string(whole % 60);
-            whole /= 60;
+            units[u] = std::to_string(below % 60);
+            below /= 60;
         }
-        units[0] = std::to_string(whole);
+        // A carry is exact: a fraction exists only below 2^63, where adding one is exact.
+        units[0] = FixedOf(wholeDegrees + static_cast<Extended>(below), 0).integer;
     }
     const std::string* marks[]
         = {&FormatSettings.DegreeSign, &FormatSettings.MinuteSign, &FormatSettings.SecondSign};

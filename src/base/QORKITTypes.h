@@ -56,8 +56,8 @@ inline constexpr std::string_view QORProgSpacingNames[]
     = {"No Spacing", "Byte Spacing", "Word Spacing", "DWord Spacing"};
 inline constexpr std::string_view QORProgSizeChangeNames[] = {"Clear", "Truncate", "Extend"};
 
-// Number of bits of a word size.
-constexpr int BitSizeBits(TQORBitSize size) noexcept { return 8 << size; }
+// Number of bits of a word size; a value outside the four sizes counts as 64 bits.
+constexpr int BitSizeBits(TQORBitSize size) noexcept { return size <= bs64Bits ? 8 << size : 64; }
 
 struct TQORComplex {
     Extended Real = 0;

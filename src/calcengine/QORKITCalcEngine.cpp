@@ -1013,10 +1013,12 @@ void TQORCalcEngine::HistoryStart() { historyPosition_ = -1; }
 
 std::string TQORCalcEngine::GetNextHistoryEntry()
 {
-    const std::int32_t next = std::max(historyPosition_, -1) + 1;
-    if (next >= GetHistoryLength())
+    // 64-bit arithmetic: a host may store any position, INT32_MAX included. A position below
+    // the start reads from the first line.
+    const std::int64_t next = std::max<std::int64_t>(historyPosition_, -1) + 1;
+    if (next >= static_cast<std::int64_t>(history_.size()))
         return {};
-    historyPosition_ = next;
+    historyPosition_ = static_cast<std::int32_t>(next);
     return history_[static_cast<std::size_t>(next)];
 }
 

@@ -5,8 +5,10 @@
 #include "QORKITMath.h"
 #include "QORKIT_RS_UC.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <string>
 
 // Every routine defined here is declared by QORKITConversionRoutines.h, which is written from the
@@ -372,6 +374,27 @@ const TQORUnitRule& RuleOf(const TQuantityTable& table, const std::size_t unit)
     return table.Rules[unit];
 }
 
+// The rise per unit run of an angle in radians. A vertical angle (90 degrees, 270 ...) has no
+// finite slope; its radian value is never exactly on the pole, so the tangent would come out as a
+// huge number of either sign. Within a few units of rounding of the pole it overflows instead.
+Extended SlopeOf(const Extended radians)
+{
+    constexpr Extended kPoleTolerance = 64 * std::numeric_limits<Extended>::epsilon();
+    if (std::fabs(std::cos(radians)) <= kPoleTolerance * std::max(Extended {1}, std::fabs(radians)))
+        throw EOverflow(rsOverflow());
+    return std::tan(radians);
+}
+
+// A value that came out of the unit chains: never NaN or infinity.
+Extended Checked(const Extended result)
+{
+    if (std::isnan(result))
+        throw EInvalidOp(rsInvalidOperation());
+    if (!std::isfinite(result))
+        throw EOverflow(rsOverflow());
+    return result;
+}
+
 // One step along a unit's definition: from the unit into its Via unit, and back.
 Extended StepToVia(const TQORUnitRule& rule, const Extended x)
 {
@@ -403,7 +426,7 @@ Extended StepFromVia(const TQORUnitRule& rule, const Extended x)
     case TQORRuleKind::Fn:
         return rule.FromVia(x);
     case TQORRuleKind::Slope:
-        return std::tan(x) * rule.Factor;
+        return SlopeOf(x) * rule.Factor;
     case TQORRuleKind::Base:
     case TQORRuleKind::Same:
         break;
@@ -512,14 +535,14 @@ Extended UnitToBase(const TQORConvType quantity, const std::size_t unit, const E
 {
     const auto& table = TableOf(quantity);
     RuleOf(table, unit);
-    return ToBase(table, unit, value);
+    return Checked(ToBase(table, unit, Checked(value)));
 }
 
 Extended UnitFromBase(const TQORConvType quantity, const std::size_t unit, const Extended value)
 {
     const auto& table = TableOf(quantity);
     RuleOf(table, unit);
-    return FromBase(table, unit, value);
+    return Checked(FromBase(table, unit, Checked(value)));
 }
 
 Extended ConvertUnits(const TQORConvType quantity, const std::size_t from, const std::size_t to,
@@ -528,12 +551,8 @@ Extended ConvertUnits(const TQORConvType quantity, const std::size_t from, const
     const auto& table = TableOf(quantity);
     RuleOf(table, from);
     RuleOf(table, to);
-    if (std::isnan(value))
-        throw EInvalidOp(rsInvalidOperation());
-    const Extended result = FromBase(table, to, ToBase(table, from, value));
-    if (!std::isfinite(result))
-        throw EOverflow(rsOverflow());
-    return result;
+    // The base value is checked too: a reciprocal unit would turn an overflow into zero.
+    return Checked(FromBase(table, to, Checked(ToBase(table, from, Checked(value)))));
 }
 
 } // namespace qorkit

@@ -240,33 +240,35 @@ struct RiseSetRequest {
     Extended HourOffset;
 };
 
-// Turns the sidereal events of the two days into civil date-times of the day N. The civil day
-// runs from -HourOffset to 24 - HourOffset hours universal time; each event's sidereal time is
-// interpolated linearly between the two days and met by the sidereal clock inside that window.
-// shift (hours) is taken off the rising and added to the setting.
-void CivilTimes(const RiseSetRequest& r, const SunTwoDays& sun, const EventTimes& events,
+// Turns the sidereal events of the two days into date-times of the day N. The events are found
+// on the universal-time day N (0 to 24 hours UT): each event's sidereal time is interpolated
+// linearly between the two days and met by the sidereal clock inside that day. Only then is
+// HourOffset added and the result wrapped once into the day, so times of places far from
+// Greenwich belong to the UT day, not to the civil one. shift (hours) is taken off the rising
+// and added to the setting.
+void ClockTimes(const RiseSetRequest& r, const SunTwoDays& sun, const EventTimes& events,
                 Extended shift, TDateTime& rise, TDateTime& set)
 {
     const auto dayStart = static_cast<TDateTime>(sun.N);
-    const Extended windowStart = -r.HourOffset;
     const Extended gst0 = QORTime2Hrs(UT2GST(dayStart));
-    const Extended lstWindow = gst0 + r.Longitude / 15 + 1.002738L * windowStart;
+    const Extended lstWindow = gst0 + r.Longitude / 15;
     TDateTime* results[2] = {&rise, &set};
     for (int event = 0; event < 2; ++event) {
         const Extended s1 = events.LST[event][0];
         Extended s2 = events.LST[event][1];
         s2 += 24 * std::nearbyint((s1 - s2) / 24); // the day-to-day step, across 0 h too
         const Extended d = s2 - s1;
-        const Extended atStart = lstWindow + QORMod(s1 + d * windowStart / 24 - lstWindow, 24);
+        const Extended atStart = lstWindow + QORMod(s1 - lstWindow, 24);
         Extended lst = (kSiderealDayHours * atStart - lstWindow * d) / (kSiderealDayHours - d);
         lst += event == 0 ? -shift : shift;
         // Universal time of that sidereal time; it repeats every sidereal day, so take the
         // occurrence nearest the estimate from the interpolation.
-        const Extended estimate = windowStart + (lst - lstWindow) / 1.002738L;
+        const Extended estimate = (lst - lstWindow) / 1.002738L;
         Extended hours = GST2UTHrs(dayStart, lst - r.Longitude / 15);
         const Extended siderealDay = 24 * kSolarRate;
         hours += siderealDay * std::nearbyint((estimate - hours) / siderealDay);
         hours += r.HourOffset;
+        // One wrap each way, not a loop: an offset beyond a day stays outside it.
         if (hours > 24)
             hours -= 24;
         else if (hours < 0)
@@ -288,7 +290,7 @@ TQORSunDay RiseSetAtZenith(const RiseSetRequest& r, const SunTwoDays& sun, Exten
     const EventTimes events = SiderealEvents(sun, QORCosDeg(zenith), r.Latitude);
     if (events.Day != sdRiseAndSet)
         return PolarTimes(events.Day, sun.N, rise, set);
-    CivilTimes(r, sun, events, 0, rise, set);
+    ClockTimes(r, sun, events, 0, rise, set);
     return sdRiseAndSet;
 }
 
@@ -588,10 +590,10 @@ void Ecliptic2Equatorial(Extended Longitude, Extended Latitude, Extended Obliqui
     Declination = r.Latitude;
 }
 
-void Ecliptic2Equatorial(Extended Longitude, Extended Latitude, TDateTime DT, Extended& RA,
+void Ecliptic2Equatorial(Extended Longitude, Extended Latitude, TQORDateTimeValue DT, Extended& RA,
                          Extended& Declination)
 {
-    Ecliptic2Equatorial(Longitude, Latitude, MeanObliquity(DT), RA, Declination);
+    Ecliptic2Equatorial(Longitude, Latitude, MeanObliquity(DT.Value), RA, Declination);
 }
 
 void Equatorial2Ecliptic(Extended RA, Extended Declination, Extended Obliquity, Extended& Longitude,
@@ -602,10 +604,10 @@ void Equatorial2Ecliptic(Extended RA, Extended Declination, Extended Obliquity, 
     Latitude = r.Latitude;
 }
 
-void Equatorial2Ecliptic(Extended RA, Extended Declination, TDateTime DT, Extended& Longitude,
-                         Extended& Latitude)
+void Equatorial2Ecliptic(Extended RA, Extended Declination, TQORDateTimeValue DT,
+                         Extended& Longitude, Extended& Latitude)
 {
-    Equatorial2Ecliptic(RA, Declination, MeanObliquity(DT), Longitude, Latitude);
+    Equatorial2Ecliptic(RA, Declination, MeanObliquity(DT.Value), Longitude, Latitude);
 }
 
 // The galactic pole lies at RA 192.25, declination 27.4 (B1950); the ascending node of the
@@ -732,7 +734,7 @@ TQORSunDay Sun_RiseSet(TDateTime DT, const TQORPosition& Position, Extended Hour
         const Extended shift
             = PathShiftHours(sun.Correction, r.Latitude, (sun.Dec[0] + sun.Dec[1]) / 2);
         if (shift >= 0) {
-            CivilTimes(r, sun, events, shift, RiseTime, SetTime);
+            ClockTimes(r, sun, events, shift, RiseTime, SetTime);
             return sdRiseAndSet;
         }
     }

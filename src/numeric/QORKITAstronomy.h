@@ -79,16 +79,24 @@ void Horizon2Equatorial(Extended Altitude, Extended Azimuth, Extended Latitude, 
                         Extended& Declination);
 // Mean obliquity of the ecliptic on a date.
 Extended MeanObliquity(TDateTime DT);
-// The forms with an Extended third argument take the obliquity; those with a date-time use the
-// mean obliquity of that date.
+// A date-time as a type of its own, for the date forms below. A date-time is a bare double, so
+// with a plain TDateTime parameter the call Ecliptic2Equatorial(lon, lat, 23.44, ...) would read
+// the obliquity as a date in January 1900; the date is asked for by name instead:
+// Ecliptic2Equatorial(lon, lat, TQORDateTimeValue {dt}, ra, dec).
+struct TQORDateTimeValue {
+    TDateTime Value;
+};
+
+// The forms with a number as third argument take the obliquity in degrees; those with a
+// TQORDateTimeValue use the mean obliquity of that date.
 void Ecliptic2Equatorial(Extended Longitude, Extended Latitude, Extended Obliquity, Extended& RA,
                          Extended& Declination);
-void Ecliptic2Equatorial(Extended Longitude, Extended Latitude, TDateTime DT, Extended& RA,
+void Ecliptic2Equatorial(Extended Longitude, Extended Latitude, TQORDateTimeValue DT, Extended& RA,
                          Extended& Declination);
 void Equatorial2Ecliptic(Extended RA, Extended Declination, Extended Obliquity, Extended& Longitude,
                          Extended& Latitude);
-void Equatorial2Ecliptic(Extended RA, Extended Declination, TDateTime DT, Extended& Longitude,
-                         Extended& Latitude);
+void Equatorial2Ecliptic(Extended RA, Extended Declination, TQORDateTimeValue DT,
+                         Extended& Longitude, Extended& Latitude);
 void Equatorial2Galactic(Extended RA, Extended Declination, Extended& GalLongitude,
                          Extended& GalLatitude);
 void Galactic2Equatorial(Extended GalLongitude, Extended GalLatitude, Extended& RA,
@@ -116,8 +124,10 @@ enum TQORSunDay : std::uint8_t {
     sdAlwaysDown = 2 // polar night: RiseTime and SetTime are both the start of the day
 };
 
-// Rising and setting of the sun's upper limb on the civil day of DT at Position, as date-times
-// of that day in civil time (universal time + HourOffset hours). Sun_RiseSet corrects the
+// Rising and setting of the sun's upper limb at Position, found on the universal-time day of DT;
+// each time then has HourOffset hours added and is wrapped once into that day, so it reads as
+// the caller's clock time (for places far from Greenwich it may be the event of the next or
+// previous civil day). Sun_RiseSet corrects the
 // geometric rising for semidiameter, refraction and parallax along the sun's path; near the
 // polar circles, where the path grazes the horizon and that correction no longer holds, it
 // falls back to the zenith-distance method. Sun_RiseSet2 uses the zenith distance 90.833

@@ -5,6 +5,7 @@
 #include "QORKITStrings.h"
 
 #include <cmath>
+#include <limits>
 
 namespace qorkit {
 
@@ -110,7 +111,12 @@ void Float2Imperial(TQORImperial& Imp, Extended Value)
         throw EOverflow(rsOverflow());
     // The sign lives in Major only, so -0.5 becomes 0 major and a positive minor count: values
     // below one major unit lose their sign, as this representation has always done.
-    const auto minor = static_cast<double>(CheckFloat(std::fabs(Value - whole) * RatioPower(Imp)));
+    const Extended minorCount = CheckFloat(std::fabs(Value - whole) * RatioPower(Imp));
+    // The minor count is stored as a double: a count beyond its range overflows here, not
+    // later when the measure is read back.
+    if (minorCount > static_cast<Extended>(std::numeric_limits<double>::max()))
+        throw EOverflow(rsOverflow());
+    const auto minor = static_cast<double>(minorCount);
     Imp.Major = static_cast<std::int32_t>(whole);
     Imp.Minor = minor;
 }

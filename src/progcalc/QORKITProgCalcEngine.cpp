@@ -67,6 +67,10 @@ std::string OperatorHistoryText(char op)
     }
 }
 
+// A size outside the four works as 64 bits, the size the getters already name for it, so no
+// shift or rotate ever sees a width beyond the word.
+TQORBitSize KnownBitSize(TQORBitSize value) { return value <= bs64Bits ? value : bs64Bits; }
+
 // The operand slot of a word size.
 std::int64_t SlotOfSize(TQORBitSize size, std::int8_t b8, std::int16_t b16, std::int32_t b32,
                         std::int64_t b64)
@@ -913,6 +917,7 @@ void TQORProgCalcEngine::ExtendSignBit()
 
 void TQORProgCalcEngine::SetBitSize(TQORBitSize value)
 {
+    value = KnownBitSize(value);
     if (value == bitSize_)
         return;
     bitSize_ = value;
@@ -936,6 +941,7 @@ void TQORProgCalcEngine::SetBitSize(TQORBitSize value)
 
 void TQORProgCalcEngine::SetBitSize2(TQORBitSize value)
 {
+    value = KnownBitSize(value);
     if (value == bitSize_)
         return;
     bitSize_ = value;

@@ -63,6 +63,15 @@ const DmsRow kDmsRows[] = {
     {"TrimPartly", 12.25L, dmsDegrees, 4, false, true, true, "12.25°"},
     {"HalfSecondAwayFromZero", 0.5L / 3600, dmsDegreesMinutesSeconds, 0, false, true, false,
      "0° 0' 1\""},
+    // Minutes and seconds keep their digits at any size the fraction still has bits for.
+    {"HugeKeepsSeconds", 1000000000000614.625L, dmsDegreesMinutesSeconds, 0, true, true, false,
+     "1000000000000614° 37' 30\""},
+    {"HugeNegative", -1000000000000614.625L, dmsDegreesMinutesSeconds, 1, true, true, false,
+     "-1000000000000614° 37' 30.0\""},
+    {"HugeKeepsMinutes", 4503599627370495.75L, dmsDegreesMinutes, 1, true, true, false,
+     "4503599627370495° 45.0'"},
+    {"HugeCarriesIntoDegrees", 1099511627775.9998779296875L, dmsDegreesMinutesSeconds, 0, true,
+     true, false, "1099511627776° 00' 00\""},
     {"LargeAngle", 1e25L, dmsDegreesMinutesSeconds, 0, false, true, false,
      "10000000000000000000000000° 0' 0\""},
 };

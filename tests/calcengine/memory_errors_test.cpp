@@ -80,6 +80,48 @@ TEST_F(GlobalStateTest, TapeCursor)
     EXPECT_EQ(engine.GetHistoryPosition(), -1);
 }
 
+// Any read position a host stores, however far out of range, reads safely: below the start
+// reads from the first line, at or past the last line reads nothing and leaves it alone.
+struct TapePositionCase {
+    const char* Name;
+    std::int32_t Position;
+    int Lines;
+    const char* Next;
+    std::int32_t After;
+};
+
+class TapePosition : public GlobalStateTest,
+                     public ::testing::WithParamInterface<TapePositionCase> { };
+
+TEST_P(TapePosition, ReadsSafely)
+{
+    const TapePositionCase& c = GetParam();
+    TQORCalcEngine engine;
+    for (int i = 0; i < c.Lines; ++i)
+        engine.AddToHistory(std::string(1, static_cast<char>('a' + i)), false);
+    engine.SetHistoryPosition(c.Position);
+    EXPECT_EQ(engine.GetNextHistoryEntry(), c.Next);
+    EXPECT_EQ(engine.GetHistoryPosition(), c.After);
+    EXPECT_EQ(engine.GetLastHistoryEntry(),
+              c.Lines ? std::string(1, static_cast<char>('a' + c.Lines - 1)) : "");
+}
+
+constexpr std::int32_t kMax = std::numeric_limits<std::int32_t>::max();
+constexpr std::int32_t kMin = std::numeric_limits<std::int32_t>::min();
+
+INSTANTIATE_TEST_SUITE_P(Positions, TapePosition,
+                         ::testing::Values(TapePositionCase {"EmptyAtMax", kMax, 0, "", kMax},
+                                           TapePositionCase {"EmptyAtMin", kMin, 0, "", kMin},
+                                           TapePositionCase {"EmptyAtStart", -1, 0, "", -1},
+                                           TapePositionCase {"MaxStays", kMax, 3, "", kMax},
+                                           TapePositionCase {"PastEndStays", 3, 3, "", 3},
+                                           TapePositionCase {"LastLineStays", 2, 3, "", 2},
+                                           TapePositionCase {"MiddleAdvances", 0, 3, "b", 1},
+                                           TapePositionCase {"MinReadsFirst", kMin, 3, "a", 0},
+                                           TapePositionCase {"BelowStartReadsFirst", -7, 3, "a",
+                                                             0}),
+                         RowName<TapePositionCase>);
+
 TEST_F(GlobalStateTest, SameLineKeepsOnlyTheLastPendingOperator)
 {
     CalcKeyDriver calc;

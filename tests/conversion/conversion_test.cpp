@@ -1,14 +1,20 @@
+#include "QORKITConstants.h"
 #include "QORKITConversion.h"
 #include "QORKITExceptions.h"
 #include "QORKITMath.h"
 #include "QORKITResource.h"
+#include "QORKITUnitAliases.h"
 #include "QORKIT_RS_UC.h"
 #include "QorkitTestSupport.h"
 
 #include <gtest/gtest.h>
 
+#include <cctype>
 #include <cmath>
+#include <set>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace qorkit {
@@ -349,6 +355,79 @@ TEST(ConvertUnits, RejectsWhatItCannotConvert)
     EXPECT_THROW(ConvertUnits(ectDistance, edtParsecs, edtFermi, 1e4930L), EOverflow);
     EXPECT_EQ(ConvertUnits(ectDistance, edtMetres, edtMetres, -3), -3);
     EXPECT_EQ(BaseUnit(ectTime), static_cast<std::size_t>(ettDays));
+}
+
+// A vertical slope has no finite grade: 90 degrees and its kin overflow instead of giving a huge
+// number of either sign; angles just off vertical still convert.
+TEST(ConvertUnits, VerticalSlopesOverflow)
+{
+    for (const auto slope : {eatGrade, eatGradePerMil, eatRiseRatio}) {
+        for (const Extended degrees : {90.0L, -90.0L, 270.0L, -450.0L}) {
+            SCOPED_TRACE(static_cast<double>(degrees));
+            EXPECT_THROW(ConvertUnit(eatDegrees, slope, degrees), EOverflow);
+        }
+        EXPECT_THROW(ConvertUnit(eatRadians, slope, QORPi / 2), EOverflow);
+        EXPECT_THROW(ConvertUnit(eatQuadrants, slope, 1.0L), EOverflow);
+        EXPECT_THROW(ConvertUnit(eatGrads, slope, 100.0L), EOverflow);
+        EXPECT_THROW(UnitFromBase(ectAngles, slope, QORPi / 2), EOverflow);
+        EXPECT_GT(ConvertUnit(eatDegrees, slope, 89.999L), 0);
+        EXPECT_LT(ConvertUnit(eatDegrees, slope, 90.001L), 0);
+    }
+    EXPECT_TRUE(Near(ConvertUnit(eatDegrees, eatGrade, -45.0L), -100, 1e-15L));
+    EXPECT_TRUE(Near(ConvertUnit(eatDegrees, eatRiseRatio, 180.0L), 0, 1e-15L));
+}
+
+// The single steps into and out of the base raise as ConvertUnits does: no infinity, no NaN,
+// for every unit at the top of the range.
+TEST(ConvertUnits, StepsIntoAndOutOfTheBaseNeverLeaveTheRange)
+{
+    int raised = 0;
+    for (std::size_t q = 0; q < QORConvTypeStr.size(); ++q) {
+        const auto quantity = static_cast<TQORConvType>(q);
+        for (std::size_t unit = 0; unit < UnitCount(quantity); ++unit) {
+            for (const Extended value : {1e4930L, -1e4930L, 1e-4930L}) {
+                for (const auto step : {&UnitToBase, &UnitFromBase}) {
+                    try {
+                        const Extended result = step(quantity, unit, value);
+                        EXPECT_TRUE(std::isfinite(result))
+                            << UnitMemberName(quantity, unit) << " " << static_cast<double>(value);
+                    } catch (const EMathError&) {
+                        ++raised;
+                    }
+                }
+            }
+            EXPECT_THROW(UnitToBase(quantity, unit, std::nanl("")), EInvalidOp);
+        }
+    }
+    EXPECT_GT(raised, 300);
+}
+
+// A reciprocal unit must not turn an overflow on the way into the base into zero.
+TEST(ConvertUnits, OverflowIntoTheBaseIsNotHiddenByAReciprocal)
+{
+    EXPECT_THROW(ConvertUnit(eftMilesPerLitre, eftLitresPer100Kilometres, 1e4932L), EOverflow);
+}
+
+// The spellings people type: each names a real unit, none is given twice within a quantity
+// (ASCII case aside), and none repeats a display name of its quantity.
+TEST(UnitAliases, EachSpellingNamesOneUnitOfItsQuantity)
+{
+    const auto lower = [](std::string_view text) {
+        std::string result(text);
+        for (char& c : result)
+            c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+        return result;
+    };
+    std::set<std::pair<TQORConvType, std::string>> seen;
+    for (const auto& alias : QORUnitAliases) {
+        SCOPED_TRACE(std::string(alias.Alias));
+        ASSERT_LT(alias.Unit, UnitCount(alias.Quantity));
+        EXPECT_FALSE(UnitName(alias.Quantity, alias.Unit).empty());
+        EXPECT_TRUE(seen.emplace(alias.Quantity, lower(alias.Alias)).second) << "given twice";
+        for (std::size_t unit = 0; unit < UnitCount(alias.Quantity); ++unit)
+            EXPECT_NE(lower(UnitName(alias.Quantity, unit)), lower(alias.Alias));
+    }
+    EXPECT_EQ(QORUnitAliases[0].Quantity, ectTemperature);
 }
 
 } // namespace

@@ -12,6 +12,7 @@
 #include <erfa.h>
 #include <numbers>
 #include <string>
+#include <type_traits>
 
 namespace qorkit {
 namespace {
@@ -277,12 +278,34 @@ TEST(EclipticCoordinates, MeanObliquityAndDateForms)
     EXPECT_NEAR(static_cast<double>(MeanObliquity(dt)), eraObl80(DateTime2Julian(dt), 0) / kDeg,
                 2e-6);
     Extended ra1 = 0, dec1 = 0, ra2 = 0, dec2 = 0;
-    Ecliptic2Equatorial(100, 3, dt, ra1, dec1);
+    Ecliptic2Equatorial(100, 3, TQORDateTimeValue {dt}, ra1, dec1);
     Ecliptic2Equatorial(100, 3, MeanObliquity(dt), ra2, dec2);
     EXPECT_EQ((std::array {ra1, dec1}), (std::array {ra2, dec2}));
     Extended lon = 0, lat = 0;
-    Equatorial2Ecliptic(ra1, dec1, dt, lon, lat);
+    Equatorial2Ecliptic(ra1, dec1, TQORDateTimeValue {dt}, lon, lat);
     EXPECT_NEAR(static_cast<double>(lon), 100, 1e-9);
+}
+
+// A plain number is an obliquity, whatever its type; a date has to be given as one.
+TEST(EclipticCoordinates, ANumberIsTheObliquity)
+{
+    Extended ra = 0, dec = 0;
+    Ecliptic2Equatorial(90, 3, 0.0, ra, dec); // no tilt: the ecliptic is the equator
+    EXPECT_NEAR(static_cast<double>(ra), 6, 1e-15);
+    EXPECT_NEAR(static_cast<double>(dec), 3, 1e-15);
+    Ecliptic2Equatorial(90, 0, 23.44, ra, dec);
+    EXPECT_NEAR(static_cast<double>(dec), 23.44, 1e-12);
+    Ecliptic2Equatorial(90, 0, 23.44f, ra, dec);
+    EXPECT_NEAR(static_cast<double>(dec), 23.44, 1e-5);
+    Ecliptic2Equatorial(90, 0, 23, ra, dec);
+    EXPECT_NEAR(static_cast<double>(dec), 23, 1e-12);
+    Extended lon = 0, lat = 0;
+    Equatorial2Ecliptic(6, 23.44, 23.44, lon, lat);
+    EXPECT_NEAR(static_cast<double>(lon), 90, 1e-12);
+    EXPECT_NEAR(static_cast<double>(lat), 0, 1e-12);
+    Equatorial2Ecliptic(6, 0, 0.0, lon, lat);
+    EXPECT_NEAR(static_cast<double>(lon), 90, 1e-12);
+    static_assert(!std::is_convertible_v<double, TQORDateTimeValue>);
 }
 
 TEST(GalacticCoordinates, PoleCentreAndRoundTrip)

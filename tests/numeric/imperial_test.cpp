@@ -108,6 +108,20 @@ TEST_F(Imperial, MessagesInTheirOrder)
     EXPECT_EQ(ImperialTexts().size(), 6u);
 }
 
+// A result whose minor count leaves the range of a double raises in the operation itself, as
+// one whose major count leaves the range of an int32 does; in-place forms keep their argument.
+TEST_F(Imperial, MinorOverflowRaisesInTheOperation)
+{
+    const TQORImperial high = MakeFeetInches(1000, 1e19, 300); // 12^300 minor units per foot
+    EXPECT_THROW(InvImperial(high), EOverflow);
+    EXPECT_THROW(DivideImperial(MakeFeetInches(1, 0, 0), high), EOverflow);
+    TQORImperial in = MakeFeetInches(0, 1, -300);
+    const TQORImperial before = in;
+    EXPECT_THROW(Float2Imperial(in, 0.5L), EOverflow); // half a foot is 6 * 12^299 "inches"
+    EXPECT_EQ(in, before);
+    EXPECT_THROW(MakeFeetInches(1000, 1e19, 1), EOverflow); // the major count overflows
+}
+
 TEST_F(Imperial, TextByPower)
 {
     EXPECT_EQ(Imperial2Str(MakeFeetInches(2, 2, 1), 2), "2 Feet 2.00 Inches");

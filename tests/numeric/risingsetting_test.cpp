@@ -38,14 +38,14 @@ double SunAltitude(std::int32_t n, const Place& p, double u)
         / kDeg;
 }
 
-// Civil hour (0..24) at which the altitude passes `target` upwards (rising) or downwards
-// within the civil day, by bisection between five-minute samples.
+// Clock hour at which the altitude passes `target` upwards (rising) or downwards within the
+// universal-time day n, by bisection between five-minute samples; the hour offset is added
+// afterwards and the result wrapped once into 0..24, as the routine's contract says.
 std::optional<double> Crossing(std::int32_t n, const Place& p, double target, bool rising)
 {
-    const double start = -p.hourOffset;
     const auto f = [&](double u) { return SunAltitude(n, p, u) - target; };
     const double step = 5.0 / 60;
-    for (double u = start; u < start + 24; u += step) {
+    for (double u = 0; u < 24; u += step) {
         const double a = f(u), b = f(u + step);
         if (rising ? (a < 0 && b >= 0) : (a >= 0 && b < 0)) {
             double lo = u, hi = u + step;
@@ -53,7 +53,8 @@ std::optional<double> Crossing(std::int32_t n, const Place& p, double target, bo
                 const double mid = (lo + hi) / 2;
                 ((f(mid) < 0) == rising ? lo : hi) = mid;
             }
-            return (lo + hi) / 2 + p.hourOffset;
+            const double clock = (lo + hi) / 2 + p.hourOffset;
+            return clock > 24 ? clock - 24 : clock < 0 ? clock + 24 : clock;
         }
     }
     return std::nullopt;
@@ -100,6 +101,10 @@ constexpr Place kReykjavik {64.1466, -21.9426, 0};
 constexpr Place kTromso {69.6492, 18.9553, 1};
 constexpr Place kTokyo {35.6762, 139.6503, 9};
 constexpr Place kCapeTown {-33.9249, 18.4241, 2};
+// Near the date line the UT day and the civil day are most apart.
+constexpr Place kAuckland {-36.8485, 174.7633, 13};
+constexpr Place kHonolulu {21.3069, -157.8583, -10};
+constexpr Place kGreenwichAtPlus5 {51.4779, -0.0015, 5};
 
 INSTANTIATE_TEST_SUITE_P(
     PlacesAndSeasons, SunRiseSet,
@@ -116,8 +121,43 @@ INSTANTIATE_TEST_SUITE_P(
                       RiseSetRow {"TromsoFebruary", kTromso, 2024, 2, 10},
                       RiseSetRow {"TromsoApril", kTromso, 2024, 4, 20},
                       RiseSetRow {"TokyoNovember", kTokyo, 1999, 11, 30},
-                      RiseSetRow {"CapeTownJune", kCapeTown, 2024, 6, 21}),
+                      RiseSetRow {"CapeTownJune", kCapeTown, 2024, 6, 21},
+                      RiseSetRow {"AucklandDecember", kAuckland, 2024, 12, 1},
+                      RiseSetRow {"HonoluluMarch", kHonolulu, 2024, 3, 3},
+                      RiseSetRow {"GreenwichAtPlus5", kGreenwichAtPlus5, 2024, 1, 10}),
     [](const auto& p) { return std::string(p.param.name); });
+
+// The offset is added to universal times of one and the same UT day: offsets apart by two hours
+// give times apart by two hours (modulo the one wrap), for both methods and places on either
+// side of the date line.
+TEST(SunRiseSetOffset, ShiftsTheSameUniversalTimes)
+{
+    const TDateTime dt = EncodeDate(2024, 7, 4) + 0.25;
+    for (const TQORPosition where : {TQORPosition {35.68, 139.65}, TQORPosition {-33.87, 151.21},
+                                     TQORPosition {51.48, 0}, TQORPosition {21.31, -157.86}}) {
+        for (auto method : {Sun_RiseSet, Sun_RiseSet2}) {
+            for (const Extended offset : {-11.0L, -5.5L, 0.0L, 8.0L, 9.0L, 10.0L}) {
+                TDateTime rise1 = 0, set1 = 0, rise2 = 0, set2 = 0;
+                ASSERT_EQ(method(dt, where, offset, rise1, set1), sdRiseAndSet);
+                ASSERT_EQ(method(dt, where, offset + 2, rise2, set2), sdRiseAndSet);
+                for (const double step : {(rise2 - rise1) * 24, (set2 - set1) * 24})
+                    EXPECT_NEAR(std::remainder(step - 2, 24.0), 0, 1e-6)
+                        << static_cast<double>(where.Latitude) << " offset "
+                        << static_cast<double>(offset);
+            }
+        }
+    }
+}
+
+TEST(SunRiseSetOffset, GreenwichAheadOfUniversalTimeShowsThatEvening)
+{
+    // Sunset at Greenwich on 10 January is near 16:10 UT; at UT+5 it reads 21:10 on that day.
+    const TDateTime day = EncodeDate(2024, 1, 10);
+    TDateTime rise = 0, set = 0;
+    ASSERT_EQ(Sun_RiseSet(day + 0.5, TQORPosition {51.4779, 0}, 5, rise, set), sdRiseAndSet);
+    EXPECT_NEAR((set - day) * 24, 21.17, 0.1);
+    EXPECT_NEAR((rise - day) * 24, 13.1, 0.1);
+}
 
 TEST(SunRiseSetPolar, PolarDayAndNightAreReportedNotRaised)
 {

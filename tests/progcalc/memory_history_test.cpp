@@ -118,6 +118,28 @@ TEST_F(ProgMemoryTest, HistoryReading)
     EXPECT_EQ(e.GetHistoryPosition(), -1);
 }
 
+TEST_F(ProgMemoryTest, AnyReadPositionIsSafe)
+{
+    constexpr std::int32_t kMax = std::numeric_limits<std::int32_t>::max();
+    constexpr std::int32_t kMin = std::numeric_limits<std::int32_t>::min();
+    IQORProgCalcEngine& e = d.Engine();
+    for (std::int32_t position : {kMax, kMin, -7, 5}) {
+        e.SetHistoryPosition(position);
+        EXPECT_EQ(e.GetNextHistoryEntry(), "") << "empty history at " << position;
+    }
+    d.Press("1+2");
+    for (std::int32_t position : {kMax, 1, 2}) {
+        e.SetHistoryPosition(position);
+        EXPECT_EQ(e.GetNextHistoryEntry(), "") << position;
+        EXPECT_EQ(e.GetHistoryPosition(), position);
+    }
+    for (std::int32_t position : {kMin, -7}) {
+        e.SetHistoryPosition(position);
+        EXPECT_EQ(e.GetNextHistoryEntry(), "0000000000000001") << position;
+        EXPECT_EQ(e.GetHistoryPosition(), 0);
+    }
+}
+
 TEST_F(ProgMemoryTest, EveryChangeNotifiesOnlyItsOwnHandler)
 {
     d.Press("5");

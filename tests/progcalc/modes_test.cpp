@@ -93,6 +93,29 @@ TEST_F(ProgModesTest, SizeChangeNotificationsAndHistory)
     EXPECT_EQ(d.Engine().GetSizeChangeStr(), "Extend");
 }
 
+// A size outside the four (a cast, a corrupt stored setting) works as 64 bits, the size its
+// text already names; shifts and rotates never see a width beyond the word.
+TEST_F(ProgModesTest, SizeOutsideTheFourWorksAs64Bits)
+{
+    using Setter = void (IQORProgCalcEngine::*)(TQORBitSize);
+    for (Setter set : {&IQORProgCalcEngine::SetBitSize, &IQORProgCalcEngine::SetBitSize2}) {
+        for (unsigned raw : {4U, 7U, 255U}) {
+            SCOPED_TRACE(raw);
+            d.Setup(bdHexadecimal, bs8Bits);
+            IQORProgCalcEngine& e = d.Engine();
+            (e.*set)(static_cast<TQORBitSize>(raw));
+            EXPECT_EQ(e.GetBitSize(), bs64Bits);
+            EXPECT_EQ(e.GetBitSizeStr(), "64 bits");
+            d.Press("1[SHL 1]");
+            EXPECT_EQ(d.Value(), 2);
+            d.Press("[AC]8000000000000001[ROL 1]");
+            EXPECT_EQ(d.Display(), "0000000000000003");
+            d.Press("[AC]8000000000000000[SHR 63]");
+            EXPECT_EQ(d.Value(), 1);
+        }
+    }
+}
+
 TEST_F(ProgModesTest, ModeTexts)
 {
     IQORProgCalcEngine& e = d.Engine();
