@@ -702,24 +702,26 @@ constexpr Radix kHex {4, rsInvalidHex};
 // digit at full width: the bit pattern is padded on the left to whole output digits.
 std::string ConvertDigits(std::string_view s, Radix from, Radix to)
 {
-    std::string bits;
-    bits.reserve(s.size() * static_cast<std::size_t>(from.bits) + 4);
+    // The input's bits, most significant first, fed through a small accumulator: each output
+    // digit is taken as soon as its bits are in. The left padding is the part of the first
+    // output digit that no input bit fills.
+    const std::size_t totalBits = s.size() * static_cast<std::size_t>(from.bits);
+    const auto width = static_cast<std::size_t>(to.bits);
+    std::string out((totalBits + width - 1) / width, '0');
+    std::uint32_t pending = 0;
+    std::size_t pendingBits = (width - totalBits % width) % width; // leading zeros
+    std::size_t next = 0;
     for (const char c : s) {
         const int v = DigitValue(c, from.bits);
         if (v < 0)
             ThrowConvert(from.invalid, s);
-        for (int b = from.bits - 1; b >= 0; --b)
-            bits += ((v >> b) & 1) ? '1' : '0';
-    }
-    const auto width = static_cast<std::size_t>(to.bits);
-    bits.insert(0, (width - bits.size() % width) % width, '0');
-    std::string out;
-    out.reserve(bits.size() / width);
-    for (std::size_t i = 0; i < bits.size(); i += width) {
-        int v = 0;
-        for (std::size_t b = 0; b < width; ++b)
-            v = v * 2 + (bits[i + b] - '0');
-        out += kHexDigits[v];
+        pending = (pending << from.bits) | static_cast<std::uint32_t>(v);
+        pendingBits += static_cast<std::size_t>(from.bits);
+        while (pendingBits >= width) {
+            pendingBits -= width;
+            out[next++] = kHexDigits[(pending >> pendingBits) & ((1U << width) - 1)];
+        }
+        pending &= (1U << pendingBits) - 1;
     }
     return out;
 }

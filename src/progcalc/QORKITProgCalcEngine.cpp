@@ -211,6 +211,24 @@ std::int64_t ParseDecimalEntry(const std::string& text)
     return static_cast<std::int64_t>(negative ? 0U - magnitude : magnitude);
 }
 
+// The bits of a word size.
+std::uint64_t SizeMask(TQORBitSize size)
+{
+    const int bits = 8 << (size & 3U);
+    return bits == 64 ? ~0ULL : (1ULL << bits) - 1;
+}
+
+// The lowest `count` digits of v in base 2^radixBits, zero-filled: the bit pattern as text.
+std::string PatternDigits(std::uint64_t v, int radixBits, int count)
+{
+    static constexpr char kDigits[] = "0123456789ABCDEF";
+    std::string out(static_cast<std::size_t>(count), '0');
+    const std::uint64_t digitMask = (1ULL << radixBits) - 1;
+    for (auto i = out.size(); i > 0 && v != 0; v >>= radixBits)
+        out[--i] = kDigits[v & digitMask];
+    return out;
+}
+
 // The entry text of a base as hexadecimal digits, at most the 16 of the int64 pattern.
 std::string EntryToHex(const std::string& text, TQORBaseDisplay base)
 {
@@ -275,21 +293,6 @@ void TQORProgCalcEngine::GetNoChars(int& hexChars, int& octChars, int& binChars)
     binChars = counts.Bin;
 }
 
-std::string TQORProgCalcEngine::CutHex(std::int64_t v) const
-{
-    return RightStr(PadChLeftStr(Int2EHex(v), '0', 16), kDigitCounts[bitSize_ & 3U].Hex);
-}
-
-std::string TQORProgCalcEngine::OctFromHex(const std::string& hex) const
-{
-    return RightStr(PadChLeftStr(Hex2Oct(hex), '0', 22), kDigitCounts[bitSize_ & 3U].Oct);
-}
-
-std::string TQORProgCalcEngine::BinFromHex(const std::string& hex) const
-{
-    return RightStr(PadChLeftStr(Hex2Bin(hex), '0', 64), kDigitCounts[bitSize_ & 3U].Bin);
-}
-
 std::string TQORProgCalcEngine::GroupedFor(TQORBaseDisplay base, const std::string& s) const
 {
     const int width = kGroupWidths[base & 3U][spacing_ & 3U];
@@ -303,38 +306,87 @@ std::string TQORProgCalcEngine::Spaced(const std::string& s) const
 
 std::string TQORProgCalcEngine::DisplayValue(std::int64_t v) const
 {
-    const std::string hex16 = PadChLeftStr(Int2EHex(v), '0', 16);
+    const TDigitCounts& counts = kDigitCounts[bitSize_ & 3U];
+    const auto bits = static_cast<std::uint64_t>(v);
     std::string s;
     switch (baseDisplay_) {
     case bdBinary:
-        s = BinFromHex(hex16);
+        s = PatternDigits(bits, 1, counts.Bin);
         break;
-    // Octal comes from the full 64-bit pattern, so a negative value at a small size shows the
-    // bits above the size that its top digit covers (-1 at 8 bits is "777"). Intended.
+    // Octal digits come from the full 64-bit pattern, so a negative value at a small size
+    // shows the bits above the size that its top digit covers (-1 at 8 bits is "777").
+    // Intended.
     case bdOctal:
-        s = OctFromHex(hex16);
+        s = PatternDigits(bits, 3, counts.Oct);
         break;
     case bdDecimal:
         s = LeftStr(Int2EStr(v), maxDisplayLength_);
         break;
     default:
-        s = CutHex(v);
+        s = PatternDigits(bits, 4, counts.Hex);
         break;
     }
     return Spaced(s);
+}
+
+void TQORProgCalcEngine::SetTexts(std::uint64_t bits, TQORBitSize size)
+{
+    if (textsSet_ && bits == textBits_ && size == textSize_ && !texts_.RejectedHex)
+        return;
+    textsSet_ = true;
+    textBits_ = bits;
+    textSize_ = size;
+    texts_.Made = 0;
+    texts_.RejectedHex = false;
+}
+
+// Each text is written on its first read after the pattern changed, then kept.
+const std::string& TQORProgCalcEngine::HexText() const
+{
+    if (texts_.RejectedHex)
+        return texts_.Hex;
+    if (textsSet_ && (texts_.Made & 1U) == 0) {
+        texts_.Hex = PatternDigits(textBits_, 4, kDigitCounts[textSize_ & 3U].Hex);
+        texts_.Made |= 1U;
+    } else if (!textsSet_) {
+        texts_.Hex.clear();
+    }
+    return texts_.Hex;
+}
+
+const std::string& TQORProgCalcEngine::OctText() const
+{
+    if (textsSet_ && (texts_.Made & 2U) == 0) {
+        texts_.Oct = PatternDigits(textBits_, 3, kDigitCounts[textSize_ & 3U].Oct);
+        texts_.Made |= 2U;
+    } else if (!textsSet_) {
+        texts_.Oct.clear();
+    }
+    return texts_.Oct;
+}
+
+const std::string& TQORProgCalcEngine::BinText() const
+{
+    if (textsSet_ && (texts_.Made & 4U) == 0) {
+        texts_.Bin = PatternDigits(textBits_, 1, kDigitCounts[textSize_ & 3U].Bin);
+        texts_.Made |= 4U;
+    } else if (!textsSet_) {
+        texts_.Bin.clear();
+    }
+    return texts_.Bin;
 }
 
 std::string TQORProgCalcEngine::CurrentText() const
 {
     switch (baseDisplay_) {
     case bdBinary:
-        return binText_;
+        return BinText();
     case bdOctal:
-        return octText_;
+        return OctText();
     case bdDecimal:
         return DisplayValue(value_);
     default:
-        return hexText_;
+        return HexText();
     }
 }
 
@@ -348,6 +400,10 @@ void TQORProgCalcEngine::SetDisplayValue(const std::string& s)
 
 std::string TQORProgCalcEngine::GetDisplayStr() const
 {
+    // Without spacing a display free of blanks is its own text, the error message included.
+    if (kGroupWidths[baseDisplay_ & 3U][spacing_ & 3U] == 0 && !display_.empty()
+        && display_.find(' ') == std::string::npos)
+        return display_;
     const std::string error = rsErrorMsg();
     if (display_ == error)
         return display_;
@@ -357,25 +413,75 @@ std::string TQORProgCalcEngine::GetDisplayStr() const
     return Spaced(s);
 }
 
+// The entry's bit pattern read straight from its digits: the lowest 64 bits of a binary,
+// octal or hexadecimal entry, a decimal entry's value modulo 2^64. False when the entry holds
+// anything else; the text path then decides (and raises the conversion error).
+bool TQORProgCalcEngine::EntryValue(std::uint64_t& bits) const
+{
+    std::uint64_t v = 0;
+    if (baseDisplay_ == bdDecimal) {
+        std::size_t i = 0;
+        bool negative = false;
+        for (; i < entry_.size() && (entry_[i] == '+' || entry_[i] == '-' || entry_[i] == ' '); ++i)
+            negative = negative != (entry_[i] == '-');
+        for (; i < entry_.size(); ++i) {
+            const char c = entry_[i];
+            if (c == ' ')
+                continue;
+            if (c < '0' || c > '9')
+                return false;
+            v = v * 10U + static_cast<std::uint64_t>(c - '0');
+        }
+        bits = negative ? 0U - v : v;
+        return true;
+    }
+    const int radixBits = baseDisplay_ == bdBinary ? 1 : baseDisplay_ == bdOctal ? 3 : 4;
+    for (const char c : entry_) {
+        if (c == ' ')
+            continue;
+        int digit = -1;
+        if (c >= '0' && c <= '9')
+            digit = c - '0';
+        else if (c >= 'A' && c <= 'F')
+            digit = c - 'A' + 10;
+        else if (c >= 'a' && c <= 'f')
+            digit = c - 'a' + 10;
+        if (digit < 0 || digit >= (1 << radixBits))
+            return false;
+        v = (v << radixBits) | static_cast<std::uint64_t>(digit);
+    }
+    bits = v;
+    return true;
+}
+
 void TQORProgCalcEngine::UpdateValues()
 {
-    int hexChars = 0;
-    int octChars = 0;
-    int binChars = 0;
-    GetNoChars(hexChars, octChars, binChars);
-    const std::string hex = RightStr(EntryToHex(entry_, baseDisplay_), hexChars);
-    hexText_ = RightStr(PadChLeftStr(hex, '0', 16), hexChars);
-    octText_ = OctFromHex(hexText_);
-    binText_ = BinFromHex(hexText_);
-    value_ = Hex2Int64(hexText_);
+    std::uint64_t bits = 0;
+    if (!EntryValue(bits)) {
+        const int hexChars = kDigitCounts[bitSize_ & 3U].Hex;
+        const std::string hex = RightStr(EntryToHex(entry_, baseDisplay_), hexChars);
+        const std::string cut = RightStr(PadChLeftStr(hex, '0', 16), hexChars);
+        try {
+            bits = static_cast<std::uint64_t>(Hex2Int64(cut));
+        } catch (const EConvertError&) {
+            // The hexadecimal text is written before it is converted: after the refusal it
+            // keeps the rejected digits, and the display shows them until the next value.
+            // Kept as it stands.
+            texts_.Hex = cut;
+            texts_.RejectedHex = true;
+            throw;
+        }
+    }
+    bits &= SizeMask(bitSize_);
+    SetTexts(bits, bitSize_);
+    // Below 64 bits the pattern is a non-negative value; at 64 bits it is two's complement.
+    value_ = static_cast<std::int64_t>(bits);
 }
 
 void TQORProgCalcEngine::ConvertValues(std::int64_t v)
 {
     value_ = v;
-    hexText_ = CutHex(v);
-    octText_ = OctFromHex(hexText_);
-    binText_ = BinFromHex(hexText_);
+    SetTexts(static_cast<std::uint64_t>(v) & SizeMask(bitSize_), bitSize_);
     SetDisplayValue(CurrentText());
 }
 
@@ -415,7 +521,7 @@ std::string TQORProgCalcEngine::DisplayValueIn(TQORBaseDisplay textBase)
     UpdateValues();
     std::string s;
     if (!entry_.empty()) {
-        s = textBase == bdHexadecimal ? hexText_ : octText_;
+        s = textBase == bdHexadecimal ? HexText() : OctText();
     } else if (operandTop_ >= 0) {
         const std::string hex = Int2EHex(operands_[static_cast<std::size_t>(operandTop_)]);
         s = textBase == bdHexadecimal ? hex : textBase == bdOctal ? Hex2Oct(hex) : Hex2Bin(hex);
@@ -431,7 +537,8 @@ std::string TQORProgCalcEngine::GetDisplayValueBin() { return DisplayValueIn(bdB
 
 void TQORProgCalcEngine::Numeric(char ch)
 {
-    ch = static_cast<char>(std::toupper(static_cast<unsigned char>(ch)));
+    if (ch >= 'a' && ch <= 'z')
+        ch = static_cast<char>(ch - 'a' + 'A');
     bool valid = false;
     switch (baseDisplay_) {
     case bdBinary:
@@ -450,7 +557,7 @@ void TQORProgCalcEngine::Numeric(char ch)
     if (!valid)
         return;
 
-    entry_ = StripLChStr(entry_, '0');
+    entry_.erase(0, entry_.find_first_not_of('0'));
     if (ch == '+' || ch == '-') {
         entry_.insert(entry_.begin(), ch);
     } else {
@@ -478,10 +585,12 @@ void TQORProgCalcEngine::Numeric(char ch)
     // Sign clean-up: "--" and "-+" cancel, "+-" is a minus.
     static constexpr std::array<std::pair<std::string_view, std::string_view>, 3> kSigns {
         {{"--", ""}, {"-+", ""}, {"+-", "-"}}};
-    for (const auto& [from, to] : kSigns) {
-        for (std::size_t at = entry_.find(from); at != std::string::npos;
-             at = entry_.find(from, at + to.size()))
-            entry_.replace(at, from.size(), to);
+    if (entry_.find_first_of("+-") != std::string::npos) {
+        for (const auto& [from, to] : kSigns) {
+            for (std::size_t at = entry_.find(from); at != std::string::npos;
+                 at = entry_.find(from, at + to.size()))
+                entry_.replace(at, from.size(), to);
+        }
     }
     SetDisplayValue(entry_);
     lastKey_ = ch;
@@ -891,20 +1000,17 @@ void TQORProgCalcEngine::SetBaseDisplay2(TQORBaseDisplay value)
 // are (8 to 16 bits: 80 becomes 8000, FF becomes 807F). This is the meaning of "Extend".
 void TQORProgCalcEngine::ExtendSignBit()
 {
-    if (binText_.size() <= 1 || binText_.front() != '1')
+    // The texts still hold the pattern at the old size: its top bit is the old sign.
+    if (!textsSet_)
         return;
-    int hexChars = 0;
-    int octChars = 0;
-    int binChars = 0;
-    GetNoChars(hexChars, octChars, binChars);
-    std::string bits = binText_;
-    bits.front() = '0';
-    hexText_ = RightStr(Bin2Hex(bits), hexChars);
-    binText_ = BinFromHex(hexText_);
-    binText_.front() = '1';
-    hexText_ = RightStr(PadChLeftStr(RightStr(Bin2Hex(binText_), hexChars), '0', 16), hexChars);
-    octText_ = OctFromHex(hexText_);
-    value_ = Hex2Int64(hexText_);
+    const int oldBits = 8 << (textSize_ & 3U);
+    if ((textBits_ >> (oldBits - 1) & 1U) == 0)
+        return;
+    const std::uint64_t topBit = 1ULL << ((8 << (bitSize_ & 3U)) - 1);
+    const std::uint64_t bits
+        = ((textBits_ & ~(1ULL << (oldBits - 1))) & SizeMask(bitSize_)) | topBit;
+    SetTexts(bits, bitSize_);
+    value_ = static_cast<std::int64_t>(bits);
     if (operandTop_ < 0)
         entry_ = baseDisplay_ == bdDecimal ? Int2EStr(value_) : CurrentText();
     else

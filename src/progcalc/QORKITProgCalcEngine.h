@@ -297,9 +297,6 @@ private:
     void HandleError(const std::string& message);
     void Notify(const TQORProgCalcNotifyEvent& handler);
     std::string CurrentText() const;
-    std::string OctFromHex(const std::string& hex) const;
-    std::string BinFromHex(const std::string& hex) const;
-    std::string CutHex(std::int64_t v) const;
     std::string Spaced(const std::string& s) const;
     std::string GroupedFor(TQORBaseDisplay base, const std::string& s) const;
     std::string DisplayValueIn(TQORBaseDisplay textBase);
@@ -318,9 +315,25 @@ private:
 
     std::string entry_; // characters typed since the last operator or result
     std::int64_t value_ = 0;
-    std::string hexText_; // the value in base 16, 8 and 2, cut and zero-filled to the size
-    std::string octText_;
-    std::string binText_;
+    // The value texts in base 16, 8 and 2, cut and zero-filled to a size: they are the bit
+    // pattern textBits_ at the word size textSize_ of the moment they were last set (which
+    // can lag behind value_ and bitSize_), written out only when read.
+    std::uint64_t textBits_ = 0;
+    TQORBitSize textSize_ = bs8Bits;
+    bool textsSet_ = false; // all three are empty until first set
+    struct TValueTexts {
+        std::string Hex;
+        std::string Oct;
+        std::string Bin;
+        std::uint8_t Made = 0; // which of the three (1, 2, 4) hold the current pattern
+        bool RejectedHex = false; // Hex holds digits that failed to convert (see UpdateValues)
+    };
+    mutable TValueTexts texts_;
+    void SetTexts(std::uint64_t bits, TQORBitSize size);
+    const std::string& HexText() const;
+    const std::string& OctText() const;
+    const std::string& BinText() const;
+    bool EntryValue(std::uint64_t& bits) const; // the entry's bits without any text
     std::string display_;
     std::string lastError_;
     char lastKey_ = ' '; // " ": nothing pending
