@@ -12,6 +12,7 @@
 #include <exception>
 #include <limits>
 #include <string_view>
+#include <utility>
 
 namespace qorkit {
 
@@ -219,14 +220,14 @@ std::uint64_t SizeMask(TQORBitSize size)
 }
 
 // The lowest `count` digits of v in base 2^radixBits, zero-filled: the bit pattern as text.
-std::string PatternDigits(std::uint64_t v, int radixBits, int count)
+// Written into `out`, whose storage is reused.
+void WritePattern(std::string& out, std::uint64_t v, int radixBits, int count)
 {
     static constexpr char kDigits[] = "0123456789ABCDEF";
-    std::string out(static_cast<std::size_t>(count), '0');
+    out.assign(static_cast<std::size_t>(count), '0');
     const std::uint64_t digitMask = (1ULL << radixBits) - 1;
     for (auto i = out.size(); i > 0 && v != 0; v >>= radixBits)
         out[--i] = kDigits[v & digitMask];
-    return out;
 }
 
 // The entry text of a base as hexadecimal digits, at most the 16 of the int64 pattern.
@@ -293,15 +294,15 @@ void TQORProgCalcEngine::GetNoChars(int& hexChars, int& octChars, int& binChars)
     binChars = counts.Bin;
 }
 
-std::string TQORProgCalcEngine::GroupedFor(TQORBaseDisplay base, const std::string& s) const
+std::string TQORProgCalcEngine::GroupedFor(TQORBaseDisplay base, std::string s) const
 {
     const int width = kGroupWidths[base & 3U][spacing_ & 3U];
     return width == 0 ? s : GroupSpacing(s, width, ' ');
 }
 
-std::string TQORProgCalcEngine::Spaced(const std::string& s) const
+std::string TQORProgCalcEngine::Spaced(std::string s) const
 {
-    return GroupedFor(baseDisplay_, s);
+    return GroupedFor(baseDisplay_, std::move(s));
 }
 
 std::string TQORProgCalcEngine::DisplayValue(std::int64_t v) const
@@ -311,22 +312,22 @@ std::string TQORProgCalcEngine::DisplayValue(std::int64_t v) const
     std::string s;
     switch (baseDisplay_) {
     case bdBinary:
-        s = PatternDigits(bits, 1, counts.Bin);
+        WritePattern(s, bits, 1, counts.Bin);
         break;
     // Octal digits come from the full 64-bit pattern, so a negative value at a small size
     // shows the bits above the size that its top digit covers (-1 at 8 bits is "777").
     // Intended.
     case bdOctal:
-        s = PatternDigits(bits, 3, counts.Oct);
+        WritePattern(s, bits, 3, counts.Oct);
         break;
     case bdDecimal:
         s = LeftStr(Int2EStr(v), maxDisplayLength_);
         break;
     default:
-        s = PatternDigits(bits, 4, counts.Hex);
+        WritePattern(s, bits, 4, counts.Hex);
         break;
     }
-    return Spaced(s);
+    return Spaced(std::move(s));
 }
 
 void TQORProgCalcEngine::SetTexts(std::uint64_t bits, TQORBitSize size)
@@ -346,7 +347,7 @@ const std::string& TQORProgCalcEngine::HexText() const
     if (texts_.RejectedHex)
         return texts_.Hex;
     if (textsSet_ && (texts_.Made & 1U) == 0) {
-        texts_.Hex = PatternDigits(textBits_, 4, kDigitCounts[textSize_ & 3U].Hex);
+        WritePattern(texts_.Hex, textBits_, 4, kDigitCounts[textSize_ & 3U].Hex);
         texts_.Made |= 1U;
     } else if (!textsSet_) {
         texts_.Hex.clear();
@@ -357,7 +358,7 @@ const std::string& TQORProgCalcEngine::HexText() const
 const std::string& TQORProgCalcEngine::OctText() const
 {
     if (textsSet_ && (texts_.Made & 2U) == 0) {
-        texts_.Oct = PatternDigits(textBits_, 3, kDigitCounts[textSize_ & 3U].Oct);
+        WritePattern(texts_.Oct, textBits_, 3, kDigitCounts[textSize_ & 3U].Oct);
         texts_.Made |= 2U;
     } else if (!textsSet_) {
         texts_.Oct.clear();
@@ -368,7 +369,7 @@ const std::string& TQORProgCalcEngine::OctText() const
 const std::string& TQORProgCalcEngine::BinText() const
 {
     if (textsSet_ && (texts_.Made & 4U) == 0) {
-        texts_.Bin = PatternDigits(textBits_, 1, kDigitCounts[textSize_ & 3U].Bin);
+        WritePattern(texts_.Bin, textBits_, 1, kDigitCounts[textSize_ & 3U].Bin);
         texts_.Made |= 4U;
     } else if (!textsSet_) {
         texts_.Bin.clear();
@@ -376,18 +377,34 @@ const std::string& TQORProgCalcEngine::BinText() const
     return texts_.Bin;
 }
 
-std::string TQORProgCalcEngine::CurrentText() const
+// The value text of the current base; decimal has none (it is formatted from the value).
+const std::string* TQORProgCalcEngine::BaseText() const
 {
     switch (baseDisplay_) {
     case bdBinary:
-        return BinText();
+        return &BinText();
     case bdOctal:
-        return OctText();
+        return &OctText();
     case bdDecimal:
-        return DisplayValue(value_);
+        return nullptr;
     default:
-        return HexText();
+        return &HexText();
     }
+}
+
+std::string TQORProgCalcEngine::CurrentText() const
+{
+    const std::string* text = BaseText();
+    return text != nullptr ? *text : DisplayValue(value_);
+}
+
+void TQORProgCalcEngine::ShowCurrentText()
+{
+    if (const std::string* text = BaseText())
+        display_ = *text;
+    else
+        display_ = DisplayValue(value_);
+    Notify(onDisplayChange_);
 }
 
 void TQORProgCalcEngine::SetDisplayValue0() { SetDisplayValue(DisplayValue(0)); }
@@ -410,7 +427,7 @@ std::string TQORProgCalcEngine::GetDisplayStr() const
     std::string s = RemoveGroupSpacing(display_, ' ');
     if (s.empty())
         s = RemoveGroupSpacing(DisplayValue(0), ' ');
-    return Spaced(s);
+    return Spaced(std::move(s));
 }
 
 // The entry's bit pattern read straight from its digits: the lowest 64 bits of a binary,
@@ -482,7 +499,7 @@ void TQORProgCalcEngine::ConvertValues(std::int64_t v)
 {
     value_ = v;
     SetTexts(static_cast<std::uint64_t>(v) & SizeMask(bitSize_), bitSize_);
-    SetDisplayValue(CurrentText());
+    ShowCurrentText();
 }
 
 void TQORProgCalcEngine::ChangeValues(TQORBaseDisplay oldBase, TQORBaseDisplay newBase)
@@ -526,7 +543,7 @@ std::string TQORProgCalcEngine::DisplayValueIn(TQORBaseDisplay textBase)
         const std::string hex = Int2EHex(operands_[static_cast<std::size_t>(operandTop_)]);
         s = textBase == bdHexadecimal ? hex : textBase == bdOctal ? Hex2Oct(hex) : Hex2Bin(hex);
     }
-    return GroupedFor(textBase, s);
+    return GroupedFor(textBase, std::move(s));
 }
 
 std::string TQORProgCalcEngine::GetDisplayValueHex() { return DisplayValueIn(bdHexadecimal); }
@@ -585,7 +602,7 @@ void TQORProgCalcEngine::Numeric(char ch)
     // Sign clean-up: "--" and "-+" cancel, "+-" is a minus.
     static constexpr std::array<std::pair<std::string_view, std::string_view>, 3> kSigns {
         {{"--", ""}, {"-+", ""}, {"+-", "-"}}};
-    if (entry_.find_first_of("+-") != std::string::npos) {
+    if (std::any_of(entry_.begin(), entry_.end(), [](char c) { return c == '+' || c == '-'; })) {
         for (const auto& [from, to] : kSigns) {
             for (std::size_t at = entry_.find(from); at != std::string::npos;
                  at = entry_.find(from, at + to.size()))
@@ -979,7 +996,7 @@ void TQORProgCalcEngine::SetBaseDisplay(TQORBaseDisplay value)
         Notify(onBitSizeChange_);
     }
     if (!pending)
-        SetDisplayValue(CurrentText());
+        ShowCurrentText();
     AddToHistory(TextOf(kBaseNames, value));
     Notify(onMemoryChange_);
 }
@@ -993,7 +1010,7 @@ void TQORProgCalcEngine::SetBaseDisplay2(TQORBaseDisplay value)
     ChangeValues(baseDisplay_, value);
     baseDisplay_ = value;
     UpdateValues();
-    SetDisplayValue(CurrentText());
+    ShowCurrentText();
 }
 
 // Extend moves the old sign bit to the new top position and leaves the other bits as they
@@ -1034,7 +1051,7 @@ void TQORProgCalcEngine::SetBitSize(TQORBitSize value)
         break; // truncate: the result below is cut to the new size
     }
     AddToHistory(TextOf(kBitSizeTexts, value));
-    SetDisplayValue(CurrentText());
+    ShowCurrentText();
     Notify(onMemoryChange_);
     // Completes any half-entered expression at the new width.
     DoResult();
@@ -1045,7 +1062,7 @@ void TQORProgCalcEngine::SetBitSize2(TQORBitSize value)
     if (value == bitSize_)
         return;
     bitSize_ = value;
-    SetDisplayValue(CurrentText());
+    ShowCurrentText();
     DoResult();
 }
 

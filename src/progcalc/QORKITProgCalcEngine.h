@@ -297,8 +297,10 @@ private:
     void HandleError(const std::string& message);
     void Notify(const TQORProgCalcNotifyEvent& handler);
     std::string CurrentText() const;
-    std::string Spaced(const std::string& s) const;
-    std::string GroupedFor(TQORBaseDisplay base, const std::string& s) const;
+    std::string Spaced(std::string s) const;
+    std::string GroupedFor(TQORBaseDisplay base, std::string s) const;
+    const std::string* BaseText() const;
+    void ShowCurrentText(); // SetDisplayValue(CurrentText()) without a temporary text
     std::string DisplayValueIn(TQORBaseDisplay textBase);
     bool OperatorPending() const;
 
