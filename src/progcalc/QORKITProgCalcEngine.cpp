@@ -212,6 +212,23 @@ std::int64_t ParseDecimalEntry(const std::string& text)
     return static_cast<std::int64_t>(negative ? 0U - magnitude : magnitude);
 }
 
+// Digit values of the characters of an entry in bases up to 16 (either case); blanks are
+// group spacing, everything else is no digit.
+constexpr std::uint8_t kNoDigit = 0xFF;
+constexpr std::uint8_t kBlankDigit = 0xFE;
+constexpr auto kDigitValues = [] {
+    std::array<std::uint8_t, 256> table {};
+    table.fill(kNoDigit);
+    for (int c = '0'; c <= '9'; ++c)
+        table[static_cast<std::size_t>(c)] = static_cast<std::uint8_t>(c - '0');
+    for (int c = 0; c < 6; ++c) {
+        table[static_cast<std::size_t>('A' + c)] = static_cast<std::uint8_t>(10 + c);
+        table[static_cast<std::size_t>('a' + c)] = static_cast<std::uint8_t>(10 + c);
+    }
+    table[' '] = kBlankDigit;
+    return table;
+}();
+
 // The bits of a word size.
 std::uint64_t SizeMask(TQORBitSize size)
 {
@@ -454,18 +471,12 @@ bool TQORProgCalcEngine::EntryValue(std::uint64_t& bits) const
     }
     const int radixBits = baseDisplay_ == bdBinary ? 1 : baseDisplay_ == bdOctal ? 3 : 4;
     for (const char c : entry_) {
-        if (c == ' ')
+        const std::uint8_t digit = kDigitValues[static_cast<unsigned char>(c)];
+        if (digit == kBlankDigit)
             continue;
-        int digit = -1;
-        if (c >= '0' && c <= '9')
-            digit = c - '0';
-        else if (c >= 'A' && c <= 'F')
-            digit = c - 'A' + 10;
-        else if (c >= 'a' && c <= 'f')
-            digit = c - 'a' + 10;
-        if (digit < 0 || digit >= (1 << radixBits))
+        if (digit >= (1U << radixBits))
             return false;
-        v = (v << radixBits) | static_cast<std::uint64_t>(digit);
+        v = (v << radixBits) | digit;
     }
     bits = v;
     return true;
