@@ -7,6 +7,7 @@
 
 #include <charconv>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace {
@@ -103,13 +104,29 @@ struct PlainUint64 {
         }
     }
 
+    std::string hexText;
+    std::string binText;
+
     void Show(std::uint64_t v)
     {
         benchmark::DoNotOptimize(std::to_chars(hex, hex + sizeof hex, v, 16).ptr);
         benchmark::DoNotOptimize(std::to_chars(bin, bin + sizeof bin, v, 2).ptr);
     }
 
-    std::uint64_t Run(std::string_view keys, bool format)
+    // As Show, and the digits kept as the display's texts.
+    void ShowTexts(std::uint64_t v)
+    {
+        const auto hexEnd = std::to_chars(hex, hex + sizeof hex, v, 16).ptr;
+        const auto binEnd = std::to_chars(bin, bin + sizeof bin, v, 2).ptr;
+        hexText = std::string(hex, hexEnd);
+        binText = std::string(bin, binEnd);
+        benchmark::DoNotOptimize(hexText.data());
+        benchmark::DoNotOptimize(binText.data());
+    }
+
+    enum Display { None, Chars, Texts };
+
+    std::uint64_t Run(std::string_view keys, Display display)
     {
         std::uint64_t acc = 0;
         std::uint64_t entry = 0;
@@ -136,8 +153,10 @@ struct PlainUint64 {
                 op = key == '=' ? ' ' : key;
                 entry = key == '=' ? acc : 0;
             }
-            if (format)
+            if (display == Chars)
                 Show(entry);
+            else if (display == Texts)
+                ShowTexts(entry);
             benchmark::DoNotOptimize(entry);
         }
         return acc;
@@ -148,7 +167,7 @@ void BM_PlainUint64(benchmark::State& state, Sequence seq)
 {
     PlainUint64 plain(seq);
     for (auto _ : state)
-        benchmark::DoNotOptimize(plain.Run(seq.keys, false));
+        benchmark::DoNotOptimize(plain.Run(seq.keys, PlainUint64::None));
     state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(seq.keys.size()));
 }
 
@@ -184,16 +203,18 @@ void BM_EngineShown(benchmark::State& state)
 }
 BENCHMARK(BM_EngineShown);
 
-// Peer of BM_EngineShown: bare uint64 reformatting hexadecimal and binary after every key.
-void BM_PeerUint64ToChars(benchmark::State& state)
+// Peers of BM_EngineShown: bare uint64 reformatting hexadecimal and binary after every key,
+// into character buffers only, or into the display's two texts.
+void BM_PeerUint64(benchmark::State& state, PlainUint64::Display display)
 {
     PlainUint64 plain[] = {PlainUint64(kHex8), PlainUint64(kDecimal), PlainUint64(kBinary32)};
     for (auto _ : state)
         for (std::size_t i = 0; i < std::size(kAllSequences); ++i)
-            benchmark::DoNotOptimize(plain[i].Run(kAllSequences[i].keys, true));
+            benchmark::DoNotOptimize(plain[i].Run(kAllSequences[i].keys, display));
     state.SetItemsProcessed(state.iterations() * KeyCount());
 }
-BENCHMARK(BM_PeerUint64ToChars);
+BENCHMARK_CAPTURE(BM_PeerUint64, ToChars, PlainUint64::Chars);
+BENCHMARK_CAPTURE(BM_PeerUint64, ToCharsTexts, PlainUint64::Texts);
 
 BENCHMARK_CAPTURE(BM_Engine, Hex8, kHex8);
 BENCHMARK_CAPTURE(BM_PlainUint64, Hex8, kHex8);

@@ -87,10 +87,10 @@ char* WriteDigitsBackwards(char* last, std::uint64_t n, int minDigits) noexcept
     return last;
 }
 
-// The exact integer m * 10^s >> shift, split in digits: |value| = mantissa * 2^exponent2 is
-// multiplied by 10^s (s <= 27, so 5^s fits in 63 bits and the product in 127) and the
-// binary fraction left over only tells whether anything nonzero was cut off.
-// Returns false for values this cannot serve (huge, tiny or subnormal): the caller falls back.
+// Fills `out` from the exact value: |value| = mantissa * 2^exponent2 is multiplied by 10^s
+// (s <= 27, so 5^s fits in 63 bits and the product in 127) and its integer part written out;
+// the binary fraction cut off only breaks ties. Returns false for values this cannot serve
+// (above 2^127, below about 1e-9 with a long fraction, subnormal): the caller falls back.
 bool ExactDigits(Extended magnitude, ShortDigits& out) noexcept
 {
     unsigned char bytes[sizeof(Extended)];
@@ -116,37 +116,19 @@ bool ExactDigits(Extended magnitude, ShortDigits& out) noexcept
         mantissa >>= zeros;
         k -= zeros;
         constexpr int maxScale = 27;
-        constexpr std::uint64_t pow5[maxScale + 1] = {1ULL,
-                                                      5ULL,
-                                                      25ULL,
-                                                      125ULL,
-                                                      625ULL,
-                                                      3125ULL,
-                                                      15625ULL,
-                                                      78125ULL,
-                                                      390625ULL,
-                                                      1953125ULL,
-                                                      9765625ULL,
-                                                      48828125ULL,
-                                                      244140625ULL,
-                                                      1220703125ULL,
-                                                      6103515625ULL,
-                                                      30517578125ULL,
-                                                      152587890625ULL,
-                                                      762939453125ULL,
-                                                      3814697265625ULL,
-                                                      19073486328125ULL,
-                                                      95367431640625ULL,
-                                                      476837158203125ULL,
-                                                      2384185791015625ULL,
-                                                      11920928955078125ULL,
-                                                      59604644775390625ULL,
-                                                      298023223876953125ULL,
-                                                      1490116119384765625ULL,
-                                                      7450580596923828125ULL};
+        static constexpr auto pow5 = [] {
+            std::array<std::uint64_t, maxScale + 1> p {};
+            std::uint64_t v = 1;
+            for (auto& x : p) {
+                x = v;
+                v *= 5;
+            }
+            return p;
+        }();
         // m / 2^k * 10^s == m * 5^s / 2^(k - s).
         scale = std::min(k, maxScale);
-        const UInt128 product = static_cast<UInt128>(mantissa) * pow5[scale];
+        const UInt128 product
+            = static_cast<UInt128>(mantissa) * pow5[static_cast<std::size_t>(scale)];
         const int shift = k - scale;
         if (shift >= 128)
             return false;
