@@ -107,18 +107,22 @@ const std::vector<Extended>& VariedValues()
     return values;
 }
 
-template<class Fn> void RunOverVaried(benchmark::State& state, Fn&& fn)
+// One item per iteration, cycling through the list.
+template<class T, class Fn>
+void RunCycling(benchmark::State& state, const std::vector<T>& items, Fn&& fn)
 {
-    const auto& values = VariedValues();
     std::size_t i = 0;
     for (auto _ : state) {
-        benchmark::DoNotOptimize(fn(values[i]));
-        i = (i + 1) % values.size();
+        benchmark::DoNotOptimize(fn(items[i]));
+        i = (i + 1) % items.size();
     }
     state.SetItemsProcessed(state.iterations());
 }
 
-void BM_Varied(benchmark::State& state, Formatter format) { RunOverVaried(state, format); }
+void BM_Varied(benchmark::State& state, Formatter format)
+{
+    RunCycling(state, VariedValues(), format);
+}
 
 BENCHMARK_CAPTURE(BM_Varied, Float2EStr, Fixed);
 BENCHMARK_CAPTURE(BM_Varied, peer_snprintf_Lf, PeerFixed);
@@ -195,13 +199,7 @@ const std::vector<TextPair>& VariedTexts()
 
 template<class Fn> void RunOverVariedTexts(benchmark::State& state, Fn&& fn)
 {
-    const auto& texts = VariedTexts();
-    std::size_t i = 0;
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(fn(texts[i]));
-        i = (i + 1) % texts.size();
-    }
-    state.SetItemsProcessed(state.iterations());
+    RunCycling(state, VariedTexts(), fn);
 }
 
 void BM_ParseVaried_Str2Float(benchmark::State& state)

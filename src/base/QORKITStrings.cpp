@@ -472,6 +472,35 @@ constexpr auto kIntegerPowers = [] {
     return p;
 }();
 
+// The exponent part of a number text at s[i]: "E" or "e", an optional sign and digits. A bare
+// "E" or "E-" (an entry still being typed) counts as exponent zero. The value stops growing
+// at kExponentCap, far beyond any extended exponent.
+constexpr long kExponentCap = 1'000'000'000L;
+struct ExponentPart {
+    std::size_t end; // index after the part (i itself when there is none)
+    std::size_t digitsStart; // the digits are s[digitsStart, end)
+    bool negative = false;
+    long value = 0; // signed
+};
+
+ExponentPart ScanExponent(std::string_view s, std::size_t i) noexcept
+{
+    ExponentPart part {i, i};
+    if (i >= s.size() || (s[i] != 'E' && s[i] != 'e'))
+        return part;
+    ++i;
+    if (i < s.size() && (s[i] == '-' || s[i] == '+'))
+        part.negative = s[i++] == '-';
+    part.digitsStart = i;
+    for (; i < s.size() && IsDigit(s[i]); ++i)
+        if (part.value < kExponentCap)
+            part.value = part.value * 10 + (s[i] - '0');
+    if (part.negative)
+        part.value = -part.value;
+    part.end = i;
+    return part;
+}
+
 // The common case of ScanFloat without any copy: a well-formed text of at most 19 significant
 // digits whose decimal exponent is within 10^27 is an exact integer times or divided by an
 // exact power of ten, which one extended multiply or divide rounds correctly. Returns false
@@ -522,23 +551,10 @@ bool ScanExact(std::string_view s, char decimalSep, char thousandSep, Extended& 
                 return false;
     if (mantissaDigits == 0)
         return false;
-    long exponent = 0;
-    if (i < s.size() && (s[i] == 'E' || s[i] == 'e')) {
-        ++i;
-        bool negativeExponent = false;
-        if (i < s.size() && (s[i] == '-' || s[i] == '+'))
-            negativeExponent = s[i++] == '-';
-        for (; i < s.size() && IsDigit(s[i]); ++i) {
-            exponent = exponent * 10 + (s[i] - '0');
-            if (exponent > 100'000)
-                return false;
-        }
-        if (negativeExponent)
-            exponent = -exponent;
-    }
-    if (i != s.size())
+    const ExponentPart exponent = ScanExponent(s, i);
+    if (exponent.end != s.size())
         return false;
-    const long power = scale + exponent;
+    const long power = scale + exponent.value;
     Extended result = 0;
     if (mantissa == 0) {
         result = 0;
@@ -606,29 +622,15 @@ ScanResult ScanFloat(std::string_view s, char decimalSep, char thousandSep, Exte
     if (mantissaDigits == 0)
         return ScanResult::Malformed;
 
-    // Exponent: "E" or "e", an optional sign and digits. A bare "E" or "E-" (an entry still
-    // being typed) counts as exponent zero.
-    long exponent = 0;
-    if (i < s.size() && (s[i] == 'E' || s[i] == 'e')) {
-        ++i;
-        bool negativeExponent = false;
-        if (i < s.size() && (s[i] == '-' || s[i] == '+'))
-            negativeExponent = s[i++] == '-';
-        const auto start = i;
-        while (i < s.size() && IsDigit(s[i]))
-            ++i;
-        if (i > start) {
-            plain += negativeExponent ? "e-" : "e";
-            plain.append(s.substr(start, i - start));
-            constexpr long kCap = 1'000'000'000L;
-            for (auto k = start; k < i && exponent < kCap; ++k)
-                exponent = exponent * 10 + (s[k] - '0');
-            if (negativeExponent)
-                exponent = -exponent;
-        }
-    }
-    if (i != s.size())
+    const ExponentPart exponentPart = ScanExponent(s, i);
+    if (exponentPart.end != s.size())
         return ScanResult::Malformed;
+    if (exponentPart.end > exponentPart.digitsStart) {
+        plain += exponentPart.negative ? "e-" : "e";
+        plain.append(
+            s.substr(exponentPart.digitsStart, exponentPart.end - exponentPart.digitsStart));
+    }
+    const long exponent = exponentPart.value;
 
     Extended parsed = 0;
     const auto [ptr, ec] = std::from_chars(plain.data(), plain.data() + plain.size(), parsed);

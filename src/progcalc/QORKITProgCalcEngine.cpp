@@ -359,39 +359,22 @@ void TQORProgCalcEngine::SetTexts(std::uint64_t bits, TQORBitSize size)
 }
 
 // Each text is written on its first read after the pattern changed, then kept.
-const std::string& TQORProgCalcEngine::HexText() const
+const std::string& TQORProgCalcEngine::ValueText(TTextBase which) const
 {
-    if (texts_.RejectedHex)
-        return texts_.Hex;
-    if (textsSet_ && (texts_.Made & 1U) == 0) {
-        WritePattern(texts_.Hex, textBits_, 4, kDigitCounts[textSize_ & 3U].Hex);
-        texts_.Made |= 1U;
-    } else if (!textsSet_) {
-        texts_.Hex.clear();
+    static constexpr int kRadixBits[] = {4, 3, 1};
+    static constexpr int TDigitCounts::*kCounts[]
+        = {&TDigitCounts::Hex, &TDigitCounts::Oct, &TDigitCounts::Bin};
+    std::string& text = texts_.Text[which];
+    if (which == tbHex && texts_.RejectedHex)
+        return text;
+    if (!textsSet_) {
+        text.clear();
+    } else if ((texts_.Made & (1U << which)) == 0) {
+        WritePattern(text, textBits_, kRadixBits[which],
+                     kDigitCounts[textSize_ & 3U].*kCounts[which]);
+        texts_.Made = static_cast<std::uint8_t>(texts_.Made | (1U << which));
     }
-    return texts_.Hex;
-}
-
-const std::string& TQORProgCalcEngine::OctText() const
-{
-    if (textsSet_ && (texts_.Made & 2U) == 0) {
-        WritePattern(texts_.Oct, textBits_, 3, kDigitCounts[textSize_ & 3U].Oct);
-        texts_.Made |= 2U;
-    } else if (!textsSet_) {
-        texts_.Oct.clear();
-    }
-    return texts_.Oct;
-}
-
-const std::string& TQORProgCalcEngine::BinText() const
-{
-    if (textsSet_ && (texts_.Made & 4U) == 0) {
-        WritePattern(texts_.Bin, textBits_, 1, kDigitCounts[textSize_ & 3U].Bin);
-        texts_.Made |= 4U;
-    } else if (!textsSet_) {
-        texts_.Bin.clear();
-    }
-    return texts_.Bin;
+    return text;
 }
 
 // The value text of the current base; decimal has none (it is formatted from the value).
@@ -399,13 +382,13 @@ const std::string* TQORProgCalcEngine::BaseText() const
 {
     switch (baseDisplay_) {
     case bdBinary:
-        return &BinText();
+        return &ValueText(tbBin);
     case bdOctal:
-        return &OctText();
+        return &ValueText(tbOct);
     case bdDecimal:
         return nullptr;
     default:
-        return &HexText();
+        return &ValueText(tbHex);
     }
 }
 
@@ -495,7 +478,7 @@ void TQORProgCalcEngine::UpdateValues()
             // The hexadecimal text is written before it is converted: after the refusal it
             // keeps the rejected digits, and the display shows them until the next value.
             // Kept as it stands.
-            texts_.Hex = cut;
+            texts_.Text[tbHex] = cut;
             texts_.RejectedHex = true;
             throw;
         }
@@ -549,7 +532,7 @@ std::string TQORProgCalcEngine::DisplayValueIn(TQORBaseDisplay textBase)
     UpdateValues();
     std::string s;
     if (!entry_.empty()) {
-        s = textBase == bdHexadecimal ? HexText() : OctText();
+        s = textBase == bdHexadecimal ? ValueText(tbHex) : ValueText(tbOct);
     } else if (operandTop_ >= 0) {
         const std::string hex = Int2EHex(operands_[static_cast<std::size_t>(operandTop_)]);
         s = textBase == bdHexadecimal ? hex : textBase == bdOctal ? Hex2Oct(hex) : Hex2Bin(hex);

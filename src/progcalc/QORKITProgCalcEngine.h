@@ -323,18 +323,15 @@ private:
     std::uint64_t textBits_ = 0;
     TQORBitSize textSize_ = bs8Bits;
     bool textsSet_ = false; // all three are empty until first set
+    enum TTextBase : std::uint8_t { tbHex, tbOct, tbBin };
     struct TValueTexts {
-        std::string Hex;
-        std::string Oct;
-        std::string Bin;
-        std::uint8_t Made = 0; // which of the three (1, 2, 4) hold the current pattern
-        bool RejectedHex = false; // Hex holds digits that failed to convert (see UpdateValues)
+        std::string Text[3]; // by TTextBase
+        std::uint8_t Made = 0; // bit per TTextBase: the text holds the current pattern
+        bool RejectedHex = false; // the hex text holds digits that failed to convert
     };
     mutable TValueTexts texts_;
     void SetTexts(std::uint64_t bits, TQORBitSize size);
-    const std::string& HexText() const;
-    const std::string& OctText() const;
-    const std::string& BinText() const;
+    const std::string& ValueText(TTextBase which) const;
     bool EntryValue(std::uint64_t& bits) const; // the entry's bits without any text
     std::string display_;
     std::string lastError_;
