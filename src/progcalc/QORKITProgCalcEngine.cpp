@@ -314,7 +314,9 @@ void TQORProgCalcEngine::GetNoChars(int& hexChars, int& octChars, int& binChars)
 std::string TQORProgCalcEngine::GroupedFor(TQORBaseDisplay base, std::string s) const
 {
     const int width = kGroupWidths[base & 3U][spacing_ & 3U];
-    return width == 0 ? s : GroupSpacing(s, width, ' ');
+    if (width == 0)
+        return s;
+    return GroupSpacing(s, width, ' ');
 }
 
 std::string TQORProgCalcEngine::Spaced(std::string s) const
