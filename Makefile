@@ -44,8 +44,7 @@ bench: build
 
 # Each speed goal as a ratio to its peer (medians of interleaved repetitions), as a table.
 bench-compare: configure
-	cmake --build $(BUILD) -j $(JOBS) --target bench_format bench_calcengine bench_progcalc \
-	    $(if $(filter OFF,$(QORKIT_BUILD_WIDGETS)),,bench_dialogs)
+	cmake --build $(BUILD) -j $(JOBS) --target bench_programs
 	@scripts/bench-compare $(BUILD)
 
 fuzz:
