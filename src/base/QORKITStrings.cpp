@@ -551,10 +551,13 @@ bool ScanExact(std::string_view s, char decimalSep, char thousandSep, Extended& 
                 return false;
     if (mantissaDigits == 0)
         return false;
-    const ExponentPart exponent = ScanExponent(s, i);
-    if (exponent.end != s.size())
-        return false;
-    const long power = scale + exponent.value;
+    long power = scale;
+    if (i != s.size()) {
+        const ExponentPart exponent = ScanExponent(s, i);
+        if (exponent.end != s.size())
+            return false;
+        power += exponent.value;
+    }
     Extended result = 0;
     if (mantissa == 0) {
         result = 0;
@@ -770,6 +773,8 @@ constexpr std::string_view kNegativeCurrency[] = {
 
 bool TryStr2Float(std::string_view s, Extended& value) noexcept
 {
+    if (ScanExact(s, FormatSettings.DecimalSeparator, FormatSettings.ThousandSeparator, value))
+        return true;
     try {
         Extended v = 0;
         if (ScanFloat(s, FormatSettings.DecimalSeparator, FormatSettings.ThousandSeparator, v)
