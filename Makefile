@@ -6,7 +6,7 @@ JOBS       ?= $(shell nproc)
 WERROR     ?= $(or $(QORKIT_WERROR),OFF)
 CMAKE_ARGS ?=
 
-.PHONY: all deps configure build run test sanitize bench fuzz format format-check install clean
+.PHONY: all deps configure build run test sanitize bench bench-compare fuzz format format-check install clean
 
 all: build
 
@@ -41,6 +41,11 @@ sanitize: deps
 
 bench: build
 	@for b in $(BUILD)/bench/bench_*; do echo "== $$b"; $$b --benchmark_min_time=0.2; done
+
+# Each speed goal as a ratio to its peer (medians of interleaved repetitions), as a table.
+bench-compare: configure
+	cmake --build $(BUILD) -j $(JOBS) --target bench_programs
+	@scripts/bench-compare $(BUILD)
 
 fuzz:
 	QORKIT_WITH_FUZZ=1 scripts/install-deps

@@ -161,7 +161,35 @@ void BM_EvaluateStrCommonSet(benchmark::State& state)
 }
 BENCHMARK(BM_EvaluateStrCommonSet);
 
+// Operators and brackets only: what SimpleEvaluateStr knows, written the same for both.
+constexpr const char* SimpleExpressions[] = {
+    "2+3*4",        "(1.5+2.25)*4-7/2",    "12.5*8-3",      "1000/8+2.5^2", "(7-2)*(3+4)",
+    "99.99*3+0.01", "((1+2)*(3+4))/(5-6)", "123456/789-10",
+};
+
+void BM_SimpleEvaluateStrOneShot(benchmark::State& state)
+{
+    for (auto _ : state)
+        for (const char* text : SimpleExpressions)
+            benchmark::DoNotOptimize(SimpleEvaluateStr(text));
+    state.SetItemsProcessed(state.iterations() * static_cast<long>(std::size(SimpleExpressions)));
+}
+BENCHMARK(BM_SimpleEvaluateStrOneShot);
+
 #ifdef QORKIT_HAVE_MUPARSER
+void BM_PeerMuparserSimple(benchmark::State& state)
+{
+    for (auto _ : state) {
+        for (const char* text : SimpleExpressions) {
+            mu::Parser parser;
+            parser.SetExpr(text);
+            benchmark::DoNotOptimize(parser.Eval());
+        }
+    }
+    state.SetItemsProcessed(state.iterations() * static_cast<long>(std::size(SimpleExpressions)));
+}
+BENCHMARK(BM_PeerMuparserSimple);
+
 void BM_PeerMuparserOneShot(benchmark::State& state)
 {
     for (auto _ : state) {

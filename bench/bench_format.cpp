@@ -5,9 +5,12 @@
 #include <benchmark/benchmark.h>
 
 #include <cinttypes>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <random>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -48,6 +51,13 @@ std::string PeerFixed(Extended v)
     return std::string(buffer, static_cast<std::size_t>(n));
 }
 
+std::string PeerGeneral18(Extended v)
+{
+    char buffer[64];
+    const int n = std::snprintf(buffer, sizeof buffer, "%.18Lg", v);
+    return std::string(buffer, static_cast<std::size_t>(n));
+}
+
 std::string PeerScientific(Extended v)
 {
     char buffer[64];
@@ -66,6 +76,58 @@ BENCHMARK_CAPTURE(BM_Format, Float2Str, ProgramText);
 BENCHMARK_CAPTURE(BM_Format, Angle2Str, Dms);
 BENCHMARK_CAPTURE(BM_Format, peer_snprintf_Lf, PeerFixed);
 BENCHMARK_CAPTURE(BM_Format, peer_snprintf_LE, PeerScientific);
+BENCHMARK_CAPTURE(BM_Format, peer_snprintf_Lg18, PeerGeneral18);
+
+// Varied values: every magnitude from 1e-9 to 1e15, integers, short and long fractions, both
+// signs. The same list feeds both sides of each pair.
+const std::vector<Extended>& VariedValues()
+{
+    static const std::vector<Extended> values = [] {
+        std::mt19937_64 random(19);
+        std::vector<Extended> out;
+        for (int i = 0; i < 256; ++i) {
+            const auto bits = random();
+            const Extended unit = static_cast<Extended>(bits >> 11) / 9007199254740992.0L;
+            const int decade = static_cast<int>(bits % 25) - 9;
+            Extended v = unit * std::pow(10.0L, decade);
+            switch (i % 4) {
+            case 0:
+                v = std::round(v); // whole numbers
+                break;
+            case 1:
+                v = std::round(v * 100) / 100; // cents
+                break;
+            default:
+                break;
+            }
+            out.push_back(i % 3 == 0 ? -v : v);
+        }
+        return out;
+    }();
+    return values;
+}
+
+// One item per iteration, cycling through the list.
+template<class T, class Fn>
+void RunCycling(benchmark::State& state, const std::vector<T>& items, Fn&& fn)
+{
+    std::size_t i = 0;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(fn(items[i]));
+        i = (i + 1) % items.size();
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+
+void BM_Varied(benchmark::State& state, Formatter format)
+{
+    RunCycling(state, VariedValues(), format);
+}
+
+BENCHMARK_CAPTURE(BM_Varied, Float2EStr, Fixed);
+BENCHMARK_CAPTURE(BM_Varied, peer_snprintf_Lf, PeerFixed);
+BENCHMARK_CAPTURE(BM_Varied, Float2CEStr, Grouped);
+BENCHMARK_CAPTURE(BM_Varied, peer_snprintf_Lg18, PeerGeneral18);
 
 // ---- Parsing -------------------------------------------------------------------------------
 
@@ -98,6 +160,69 @@ void BM_Parse_peer_strtold(benchmark::State& state)
                  [](const std::string& s) { return std::strtold(s.c_str(), nullptr); });
 }
 BENCHMARK(BM_Parse_peer_strtold);
+
+// Varied texts: what a user types or pastes, from short integers to 19 significant digits,
+// with and without separators and exponents. The peer reads the same numbers without
+// thousands separators (strtold knows none).
+struct TextPair {
+    std::string Ours;
+    std::string Peer;
+};
+
+const std::vector<TextPair>& VariedTexts()
+{
+    static const std::vector<TextPair> texts = [] {
+        std::mt19937_64 random(23);
+        std::vector<TextPair> out;
+        for (int i = 0; i < 256; ++i) {
+            const int digits = 1 + static_cast<int>(random() % 19);
+            std::string mantissa;
+            for (int d = 0; d < digits; ++d)
+                mantissa += static_cast<char>('0' + (d == 0 ? 1 + random() % 9 : random() % 10));
+            const int point = static_cast<int>(random() % static_cast<unsigned>(digits + 1));
+            std::string integer = mantissa.substr(0, static_cast<std::size_t>(point));
+            std::string fraction = mantissa.substr(static_cast<std::size_t>(point));
+            if (integer.empty())
+                integer = "0";
+            const std::string sign = i % 5 == 0 ? "-" : "";
+            const std::string exponent
+                = i % 7 == 0 ? "E" + std::to_string(static_cast<int>(random() % 41) - 20) : "";
+            std::string peer = sign + integer + (fraction.empty() ? "" : "." + fraction);
+            std::string ours = sign + (i % 2 == 0 ? qorkit::GroupSpacing(integer, 3, ',') : integer)
+                + (fraction.empty() ? "" : "." + fraction);
+            out.push_back({ours + exponent, peer + exponent});
+        }
+        return out;
+    }();
+    return texts;
+}
+
+template<class Fn> void RunOverVariedTexts(benchmark::State& state, Fn&& fn)
+{
+    RunCycling(state, VariedTexts(), fn);
+}
+
+void BM_ParseVaried_Str2Float(benchmark::State& state)
+{
+    RunOverVariedTexts(state, [](const TextPair& t) { return qorkit::Str2Float(t.Ours); });
+}
+BENCHMARK(BM_ParseVaried_Str2Float);
+
+void BM_ParseVaried_TryStr2Float(benchmark::State& state)
+{
+    RunOverVariedTexts(state, [](const TextPair& t) {
+        Extended v = 0;
+        return qorkit::TryStr2Float(t.Ours, v) ? v : -1;
+    });
+}
+BENCHMARK(BM_ParseVaried_TryStr2Float);
+
+void BM_ParseVaried_peer_strtold(benchmark::State& state)
+{
+    RunOverVariedTexts(state,
+                       [](const TextPair& t) { return std::strtold(t.Peer.c_str(), nullptr); });
+}
+BENCHMARK(BM_ParseVaried_peer_strtold);
 
 // ---- Integers and digit strings ------------------------------------------------------------
 

@@ -5,7 +5,9 @@
 
 #include <benchmark/benchmark.h>
 
+#include <charconv>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace {
@@ -70,12 +72,24 @@ void BM_Engine(benchmark::State& state, Sequence seq)
 }
 
 // The peer: the same keys with a digit accumulator, a one-level pending operator and a
-// bracket register, in uint64 without texts or history.
-void BM_PlainUint64(benchmark::State& state, Sequence seq)
-{
-    const std::uint64_t radix = seq.base == bdBinary ? 2 : seq.base == bdDecimal ? 10 : 16;
-    const std::uint64_t mask = seq.size == bs64Bits ? ~0ULL : (1ULL << (8 << seq.size)) - 1;
-    auto apply = [](char op, std::uint64_t b, std::uint64_t a) {
+// bracket register, in uint64 without texts or history. With `format`, the shown value is
+// written in hexadecimal and binary with std::to_chars after every key, as a bare display
+// would.
+struct PlainUint64 {
+    std::uint64_t radix;
+    std::uint64_t mask;
+    char hex[24] {};
+    char bin[72] {};
+
+    explicit PlainUint64(const Sequence& seq)
+        : radix(seq.base == bdBinary        ? 2
+                    : seq.base == bdDecimal ? 10
+                                            : 16),
+          mask(seq.size == bs64Bits ? ~0ULL : (1ULL << (8 << seq.size)) - 1)
+    { }
+
+    static std::uint64_t Apply(char op, std::uint64_t b, std::uint64_t a)
+    {
         switch (op) {
         case '+':
             return b + a;
@@ -88,14 +102,38 @@ void BM_PlainUint64(benchmark::State& state, Sequence seq)
         default:
             return a;
         }
-    };
-    for (auto _ : state) {
+    }
+
+    std::string hexText;
+    std::string binText;
+
+    void Show(std::uint64_t v)
+    {
+        benchmark::DoNotOptimize(std::to_chars(hex, hex + sizeof hex, v, 16).ptr);
+        benchmark::DoNotOptimize(std::to_chars(bin, bin + sizeof bin, v, 2).ptr);
+    }
+
+    // As Show, and the digits kept as the display's texts.
+    void ShowTexts(std::uint64_t v)
+    {
+        const auto hexEnd = std::to_chars(hex, hex + sizeof hex, v, 16).ptr;
+        const auto binEnd = std::to_chars(bin, bin + sizeof bin, v, 2).ptr;
+        hexText = std::string(hex, hexEnd);
+        binText = std::string(bin, binEnd);
+        benchmark::DoNotOptimize(hexText.data());
+        benchmark::DoNotOptimize(binText.data());
+    }
+
+    enum Display { None, Chars, Texts };
+
+    std::uint64_t Run(std::string_view keys, Display display)
+    {
         std::uint64_t acc = 0;
         std::uint64_t entry = 0;
         std::uint64_t saved = 0;
         char op = ' ';
         char savedOp = ' ';
-        for (char key : seq.keys) {
+        for (char key : keys) {
             if (key >= '0' && key <= '9') {
                 entry = entry * radix + static_cast<std::uint64_t>(key - '0');
             } else if (key >= 'A' && key <= 'F') {
@@ -107,20 +145,76 @@ void BM_PlainUint64(benchmark::State& state, Sequence seq)
                 savedOp = op;
                 op = ' ';
             } else if (key == ')') {
-                entry = apply(op, acc, entry) & mask;
+                entry = Apply(op, acc, entry) & mask;
                 acc = saved;
                 op = savedOp;
             } else {
-                acc = apply(op, acc, entry) & mask;
+                acc = Apply(op, acc, entry) & mask;
                 op = key == '=' ? ' ' : key;
                 entry = key == '=' ? acc : 0;
             }
+            if (display == Chars)
+                Show(entry);
+            else if (display == Texts)
+                ShowTexts(entry);
             benchmark::DoNotOptimize(entry);
         }
-        benchmark::DoNotOptimize(acc);
+        return acc;
     }
+};
+
+void BM_PlainUint64(benchmark::State& state, Sequence seq)
+{
+    PlainUint64 plain(seq);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(plain.Run(seq.keys, PlainUint64::None));
     state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(seq.keys.size()));
 }
+
+constexpr Sequence kAllSequences[] = {kHex8, kDecimal, kBinary32};
+
+std::int64_t KeyCount()
+{
+    std::int64_t n = 0;
+    for (const auto& seq : kAllSequences)
+        n += static_cast<std::int64_t>(seq.keys.size());
+    return n;
+}
+
+// Every sequence, the display text read after every key as a host showing it does.
+void BM_EngineShown(benchmark::State& state)
+{
+    TQORProgCalcEngine engines[std::size(kAllSequences)];
+    for (std::size_t i = 0; i < std::size(kAllSequences); ++i) {
+        engines[i].SetBaseDisplay2(kAllSequences[i].base);
+        engines[i].SetBitSize2(kAllSequences[i].size);
+    }
+    for (auto _ : state) {
+        for (std::size_t i = 0; i < std::size(kAllSequences); ++i) {
+            auto& e = engines[i];
+            e.AllClear();
+            for (char key : kAllSequences[i].keys) {
+                Press(e, key);
+                benchmark::DoNotOptimize(e.GetDisplayStr().data());
+            }
+        }
+    }
+    state.SetItemsProcessed(state.iterations() * KeyCount());
+}
+BENCHMARK(BM_EngineShown);
+
+// Peers of BM_EngineShown: bare uint64 reformatting hexadecimal and binary after every key,
+// into character buffers only, or into the display's two texts.
+void BM_PeerUint64(benchmark::State& state, PlainUint64::Display display)
+{
+    PlainUint64 plain[] = {PlainUint64(kHex8), PlainUint64(kDecimal), PlainUint64(kBinary32)};
+    for (auto _ : state)
+        for (std::size_t i = 0; i < std::size(kAllSequences); ++i)
+            benchmark::DoNotOptimize(plain[i].Run(kAllSequences[i].keys, display));
+    state.SetItemsProcessed(state.iterations() * KeyCount());
+}
+BENCHMARK_CAPTURE(BM_PeerUint64, ToChars, PlainUint64::Chars);
+BENCHMARK_CAPTURE(BM_PeerUint64, ToCharsTexts, PlainUint64::Texts);
 
 BENCHMARK_CAPTURE(BM_Engine, Hex8, kHex8);
 BENCHMARK_CAPTURE(BM_PlainUint64, Hex8, kHex8);

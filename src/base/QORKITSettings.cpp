@@ -25,15 +25,28 @@ bool QOREastPositive = true;
 
 namespace {
 constexpr std::uint64_t DefaultSeed = 5489u;
-}
+
+// A seed takes effect at the generator's next use: engines seed on construction and most of
+// them never draw a number, so seeding costs nothing until someone does.
+bool seedPending = false;
+std::uint64_t pendingSeed = 0;
+} // namespace
 
 std::mt19937_64& RandomGenerator()
 {
     static std::mt19937_64 generator {DefaultSeed};
+    if (seedPending) {
+        generator.seed(pendingSeed);
+        seedPending = false;
+    }
     return generator;
 }
 
-void RandomSeed(std::uint64_t seed) { RandomGenerator().seed(seed); }
+void RandomSeed(std::uint64_t seed)
+{
+    pendingSeed = seed;
+    seedPending = true;
+}
 
 Extended RandomExtended()
 {

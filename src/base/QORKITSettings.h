@@ -61,7 +61,8 @@ extern bool QOREastPositive;
 // Puts every variable above back to its start-up value and re-seeds the random generator.
 void ResetGlobalSettings();
 
-// The process-wide random generator.
+// The process-wide random generator. RandomSeed takes effect before the next number is
+// drawn; a reference kept from RandomGenerator() across a RandomSeed does not see the seed.
 std::mt19937_64& RandomGenerator();
 void RandomSeed(std::uint64_t seed);
 // A uniformly distributed value in [0, 1).

@@ -5,9 +5,13 @@
 #include "QORKITSettings.h"
 
 #include <algorithm>
+#include <array>
+#include <bit>
 #include <cctype>
+#include <cfloat>
 #include <charconv>
 #include <cmath>
+#include <cstring>
 #include <limits>
 #include <system_error>
 
@@ -57,42 +61,151 @@ void CheckFinite(Extended value)
         throw EOverflow(rsOverflow());
 }
 
-// Exact digits of a value with a short binary fraction: |value| = m / 2^k with m < 2^64 and
-// k <= 24 has the finite decimal expansion m * 5^k / 10^k. When that expansion has at most
-// kSignificantDigits digits it is exactly what the general path below produces, only much
-// faster; calculator values (integers, halves, quarters, cents that are whole binary fractions)
-// mostly take this path. Returns false when the value does not qualify.
-bool ExactShortDigits(Extended magnitude, Digits& result)
+// The magnitude's decimal digits into a stack buffer: at most kSignificantDigits of them,
+// correctly rounded from the exact binary value (ties to even, as the standard library's
+// conversions round), trailing zeros dropped. The value is 0.D x 10^P.
+struct ShortDigits {
+    char D[kSignificantDigits + 1];
+    int Count = 0; // zero for a zero value
+    long P = 0;
+};
+
+#if LDBL_MANT_DIG == 64 && LDBL_MAX_EXP == 16384 && defined(__SIZEOF_INT128__)
+#define QORKIT_EXACT_DIGITS 1
+__extension__ typedef unsigned __int128 UInt128;
+
+// Writes the decimal digits of n (without leading zeros) at the end of [first, last) and
+// returns where they begin.
+char* WriteDigitsBackwards(char* last, std::uint64_t n, int minDigits) noexcept
 {
-    constexpr int maxShift = 24;
-    constexpr Extended two64 = 18446744073709551616.0L;
-    Extended scaled = magnitude;
-    int k = 0;
-    while (scaled != std::floor(scaled)) {
-        if (++k > maxShift)
-            return false;
-        scaled *= 2; // exact: only the exponent changes
+    int written = 0;
+    while (n != 0 || written < minDigits) {
+        *--last = static_cast<char>('0' + n % 10);
+        n /= 10;
+        ++written;
     }
-    if (scaled >= two64)
+    return last;
+}
+
+// Fills `out` from the exact value: |value| = mantissa * 2^exponent2 is multiplied by 10^s
+// (s <= 27, so 5^s fits in 63 bits and the product in 127) and its integer part written out;
+// the binary fraction cut off only breaks ties. Returns false for values this cannot serve
+// (above 2^127, below about 1e-9 with a long fraction, subnormal): the caller falls back.
+bool ExactDigits(Extended magnitude, ShortDigits& out) noexcept
+{
+    unsigned char bytes[sizeof(Extended)];
+    std::memcpy(bytes, &magnitude, sizeof bytes);
+    std::uint64_t mantissa = 0;
+    std::uint16_t signExponent = 0;
+    std::memcpy(&mantissa, bytes, sizeof mantissa);
+    std::memcpy(&signExponent, bytes + 8, sizeof signExponent);
+    const int biased = signExponent & 0x7FFF;
+    if (biased == 0 || mantissa == 0 || (mantissa >> 63) == 0)
         return false;
-    __extension__ typedef unsigned __int128 UInt128;
-    UInt128 n = static_cast<std::uint64_t>(scaled);
-    for (int i = 0; i < k; ++i)
-        n *= 5;
-    char buffer[48];
-    int length = 0;
-    for (; n != 0; n /= 10)
-        buffer[length++] = static_cast<char>('0' + static_cast<int>(n % 10));
-    // buffer holds the digits of m * 5^k backwards; the value is that integer / 10^k.
-    int low = 0;
-    while (low < length && buffer[low] == '0')
-        ++low;
-    if (length - low > kSignificantDigits)
+    int exponent2 = biased - 16383 - 63;
+    if (exponent2 > 63)
         return false;
-    result.D.assign(buffer + low, buffer + length);
-    std::reverse(result.D.begin(), result.D.end());
-    result.P = length - k;
+    UInt128 q = 0;
+    bool sticky = false; // nonzero bits below q
+    int scale = 0; // q = floor(|value| * 10^scale)
+    if (exponent2 >= 0) {
+        q = static_cast<UInt128>(mantissa) << exponent2;
+    } else {
+        int k = -exponent2;
+        const int zeros = std::min(std::countr_zero(mantissa), k);
+        mantissa >>= zeros;
+        k -= zeros;
+        constexpr int maxScale = 27;
+        static constexpr auto pow5 = [] {
+            std::array<std::uint64_t, maxScale + 1> p {};
+            std::uint64_t v = 1;
+            for (auto& x : p) {
+                x = v;
+                v *= 5;
+            }
+            return p;
+        }();
+        // m / 2^k * 10^s == m * 5^s / 2^(k - s).
+        scale = std::min(k, maxScale);
+        const UInt128 product
+            = static_cast<UInt128>(mantissa) * pow5[static_cast<std::size_t>(scale)];
+        const int shift = k - scale;
+        if (shift >= 128)
+            return false;
+        q = shift == 0 ? product : product >> shift;
+        sticky = shift != 0 && (product & ((static_cast<UInt128>(1) << shift) - 1)) != 0;
+    }
+    // All digits of q, right-aligned in a buffer: q < 2^128 has at most 39.
+    constexpr std::uint64_t ten19 = 10'000'000'000'000'000'000ULL;
+    char buffer[40];
+    char* const end = buffer + sizeof buffer;
+    char* first = end;
+    if (q >= ten19) {
+        const auto high = static_cast<std::uint64_t>(q / ten19);
+        const auto low = static_cast<std::uint64_t>(q % ten19);
+        first = WriteDigitsBackwards(first, low, 19);
+        if (high >= ten19) { // q >= 10^38
+            first = WriteDigitsBackwards(first, high % ten19, 19);
+            first = WriteDigitsBackwards(first, high / ten19, 0);
+        } else {
+            first = WriteDigitsBackwards(first, high, 0);
+        }
+    } else {
+        first = WriteDigitsBackwards(first, static_cast<std::uint64_t>(q), 0);
+    }
+    int count = static_cast<int>(end - first);
+    // With bits cut off, the digits must reach past the kept ones, so that the cut-off part
+    // is only ever a tie breaker.
+    if (sticky && count <= kSignificantDigits)
+        return false;
+    long point = count - scale;
+    if (count > kSignificantDigits) {
+        const char next = first[kSignificantDigits];
+        bool rest = sticky;
+        for (int i = kSignificantDigits + 1; i < count && !rest; ++i)
+            rest = first[i] != '0';
+        const bool up = next > '5'
+            || (next == '5' && (rest || (first[kSignificantDigits - 1] - '0') % 2 != 0));
+        count = kSignificantDigits;
+        if (up) {
+            int i = count;
+            while (i > 0 && first[i - 1] == '9')
+                first[--i] = '0';
+            if (i > 0) {
+                ++first[i - 1];
+            } else {
+                first[0] = '1';
+                count = 1;
+                ++point;
+            }
+        }
+    }
+    while (count > 0 && first[count - 1] == '0')
+        --count;
+    std::memcpy(out.D, first, static_cast<std::size_t>(count));
+    out.Count = count;
+    out.P = point;
     return true;
+}
+#endif
+
+// Magnitude digits of a finite nonzero value through the standard library (the general path).
+void LibraryDigits(Extended magnitude, std::string& digits, long& point)
+{
+    char buffer[64];
+    const auto [end, ec] = std::to_chars(buffer, buffer + sizeof buffer, magnitude,
+                                         std::chars_format::scientific, kSignificantDigits - 1);
+    // "d.ddddddddddddddddde[+-]x": cannot fail for a finite value in this buffer.
+    const std::string_view text(buffer, static_cast<std::size_t>(end - buffer));
+    const auto ePos = text.find('e');
+    digits.reserve(kSignificantDigits);
+    digits += text[0];
+    digits += text.substr(2, ePos - 2);
+    long exponent = 0;
+    std::from_chars(text.data() + ePos + (text[ePos + 1] == '+' ? 2 : 1), end, exponent);
+    point = exponent + 1;
+    while (!digits.empty() && digits.back() == '0')
+        digits.pop_back();
 }
 
 // Magnitude digits of a finite value (the sign is the caller's business).
@@ -101,22 +214,15 @@ Digits ToDigits(Extended value)
     Digits result;
     if (value == 0)
         return result;
-    if (ExactShortDigits(std::fabs(value), result))
+#ifdef QORKIT_EXACT_DIGITS
+    ShortDigits exact;
+    if (ExactDigits(std::fabs(value), exact)) {
+        result.D.assign(exact.D, static_cast<std::size_t>(exact.Count));
+        result.P = exact.P;
         return result;
-    char buffer[64];
-    const auto [end, ec] = std::to_chars(buffer, buffer + sizeof buffer, std::fabs(value),
-                                         std::chars_format::scientific, kSignificantDigits - 1);
-    // "d.ddddddddddddddddde[+-]x": cannot fail for a finite value in this buffer.
-    const std::string_view text(buffer, static_cast<std::size_t>(end - buffer));
-    const auto ePos = text.find('e');
-    result.D.reserve(kSignificantDigits);
-    result.D += text[0];
-    result.D += text.substr(2, ePos - 2);
-    long exponent = 0;
-    std::from_chars(text.data() + ePos + (text[ePos + 1] == '+' ? 2 : 1), end, exponent);
-    result.P = exponent + 1;
-    while (!result.D.empty() && result.D.back() == '0')
-        result.D.pop_back();
+    }
+#endif
+    LibraryDigits(std::fabs(value), result.D, result.P);
     return result;
 }
 
@@ -236,6 +342,61 @@ std::string JoinFixed(FixedText parts, const FixedStyle& style)
     return out;
 }
 
+#ifdef QORKIT_EXACT_DIGITS
+// Fixed notation of short digits in one pass over a stack buffer: rounds to the decimals
+// (halves away from zero), then writes sign, grouped integer digits and decimals. The same
+// text as JoinFixed(ToFixed(...)) gives, for every value ExactDigits serves.
+std::string FixedFromDigits(ShortDigits d, bool negative, int decimals, const FixedStyle& style)
+{
+    const long keep = d.P + decimals;
+    if (d.Count > 0 && keep < d.Count) {
+        const bool up = keep >= 0 && d.D[keep] >= '5';
+        d.Count = keep < 0 ? 0 : static_cast<int>(keep);
+        if (up) {
+            int i = d.Count;
+            while (i > 0 && d.D[i - 1] == '9')
+                d.D[--i] = '0';
+            if (i > 0) {
+                ++d.D[i - 1];
+            } else {
+                d.D[0] = '1';
+                d.Count = 1;
+                ++d.P;
+            }
+        }
+        while (d.Count > 0 && d.D[d.Count - 1] == '0')
+            --d.Count;
+    }
+    char buffer[1 + 2 * (kSignificantDigits + 24) + 2 + 256];
+    char* out = buffer;
+    if (d.Count > 0 && negative)
+        *out++ = '-';
+    if (d.Count == 0 || d.P <= 0) {
+        *out++ = '0';
+    } else {
+        const long integerDigits = d.P;
+        for (long i = 0; i < integerDigits; ++i) {
+            const long rest = integerDigits - i;
+            if (style.group && i > 0 && rest >= 3
+                && (style.lakh ? (rest - 3) % 2 == 0 : rest % 3 == 0))
+                *out++ = style.thousands;
+            *out++ = i < d.Count ? d.D[i] : '0';
+        }
+    }
+    long fraction = decimals;
+    if (style.trim)
+        fraction = d.Count == 0 ? 0 : std::clamp<long>(d.Count - d.P, 0, decimals);
+    if (fraction > 0) {
+        *out++ = style.decimal;
+        for (long j = 0; j < fraction; ++j) {
+            const long index = d.Count == 0 ? -1 : d.P + j;
+            *out++ = index >= 0 && index < d.Count ? d.D[index] : '0';
+        }
+    }
+    return std::string(buffer, out);
+}
+#endif
+
 std::string FormatFixed(Extended value, std::uint8_t decimals, bool group, bool lakh, bool trim)
 {
     FixedStyle style;
@@ -244,6 +405,12 @@ std::string FormatFixed(Extended value, std::uint8_t decimals, bool group, bool 
     style.group = group;
     style.lakh = lakh;
     style.trim = trim;
+#ifdef QORKIT_EXACT_DIGITS
+    CheckFinite(value);
+    // Values up to 2^64 carry at most 40 integer digits: the stack buffer always holds them.
+    if (ShortDigits d; value == 0 || (ExactDigits(std::fabs(value), d) && d.P <= 40))
+        return FixedFromDigits(d, std::signbit(value), decimals, style);
+#endif
     return JoinFixed(FixedOf(value, decimals), style);
 }
 
@@ -284,9 +451,138 @@ std::string ScientificText(Extended value, int decimals, char decimalSep)
 
 enum class ScanResult { Ok, Malformed, Overflow };
 
+// Powers of ten an extended float holds exactly (5^27 < 2^64).
+constexpr int kMaxExactPower = 27;
+constexpr auto kExactPowers = [] {
+    std::array<Extended, kMaxExactPower + 1> p {};
+    Extended v = 1;
+    for (auto& x : p) {
+        x = v;
+        v *= 10;
+    }
+    return p;
+}();
+constexpr auto kIntegerPowers = [] {
+    std::array<std::uint64_t, 20> p {};
+    std::uint64_t v = 1;
+    for (auto& x : p) {
+        x = v;
+        v *= 10;
+    }
+    return p;
+}();
+
+// The exponent part of a number text at s[i]: "E" or "e", an optional sign and digits. A bare
+// "E" or "E-" (an entry still being typed) counts as exponent zero. The value stops growing
+// at kExponentCap, far beyond any extended exponent.
+constexpr long kExponentCap = 1'000'000'000L;
+struct ExponentPart {
+    std::size_t end; // index after the part (i itself when there is none)
+    std::size_t digitsStart; // the digits are s[digitsStart, end)
+    bool negative = false;
+    long value = 0; // signed
+};
+
+ExponentPart ScanExponent(std::string_view s, std::size_t i) noexcept
+{
+    ExponentPart part {i, i};
+    if (i >= s.size() || (s[i] != 'E' && s[i] != 'e'))
+        return part;
+    ++i;
+    if (i < s.size() && (s[i] == '-' || s[i] == '+'))
+        part.negative = s[i++] == '-';
+    part.digitsStart = i;
+    for (; i < s.size() && IsDigit(s[i]); ++i)
+        if (part.value < kExponentCap)
+            part.value = part.value * 10 + (s[i] - '0');
+    if (part.negative)
+        part.value = -part.value;
+    part.end = i;
+    return part;
+}
+
+// The common case of ScanFloat without any copy: a well-formed text of at most 19 significant
+// digits whose decimal exponent is within 10^27 is an exact integer times or divided by an
+// exact power of ten, which one extended multiply or divide rounds correctly. Returns false
+// whenever that does not hold (malformed text included); ScanFloat then decides.
+bool ScanExact(std::string_view s, char decimalSep, char thousandSep, Extended& value) noexcept
+{
+    s = TrimBlanks(s);
+    std::size_t i = 0;
+    bool negative = false;
+    if (i < s.size() && (s[i] == '-' || s[i] == '+'))
+        negative = s[i++] == '-';
+    constexpr int maxDigits = 19; // 10^19 - 1 < 2^64
+    std::uint64_t mantissa = 0;
+    int significant = 0;
+    long scale = 0; // value = mantissa * 10^(scale + exponent)
+    std::size_t mantissaDigits = 0;
+    const auto take = [&](char c, bool fraction) {
+        ++mantissaDigits;
+        if (mantissa == 0 && c == '0') {
+            scale -= fraction ? 1 : 0;
+            return true;
+        }
+        if (significant < maxDigits) {
+            mantissa = mantissa * 10 + static_cast<std::uint64_t>(c - '0');
+            ++significant;
+            scale -= fraction ? 1 : 0;
+            return true;
+        }
+        if (c != '0')
+            return false; // more digits than fit exactly
+        scale += fraction ? 0 : 1;
+        return true;
+    };
+    for (; i < s.size(); ++i) {
+        const char c = s[i];
+        if (IsDigit(c)) {
+            if (!take(c, false))
+                return false;
+        } else if (c == thousandSep && c != decimalSep && mantissaDigits > 0) {
+            continue;
+        } else {
+            break;
+        }
+    }
+    if (i < s.size() && s[i] == decimalSep)
+        for (++i; i < s.size() && IsDigit(s[i]); ++i)
+            if (!take(s[i], true))
+                return false;
+    if (mantissaDigits == 0)
+        return false;
+    long power = scale;
+    if (i != s.size()) {
+        const ExponentPart exponent = ScanExponent(s, i);
+        if (exponent.end != s.size())
+            return false;
+        power += exponent.value;
+    }
+    Extended result = 0;
+    if (mantissa == 0) {
+        result = 0;
+    } else if (power >= 0 && power <= kMaxExactPower) {
+        result = static_cast<Extended>(mantissa) * kExactPowers[static_cast<std::size_t>(power)];
+    } else if (power < 0 && power >= -kMaxExactPower) {
+        result = static_cast<Extended>(mantissa) / kExactPowers[static_cast<std::size_t>(-power)];
+    } else if (power > kMaxExactPower && power - kMaxExactPower < 20) {
+        // Moves the surplus power into the integer while it stays exact.
+        const auto extra = kIntegerPowers[static_cast<std::size_t>(power - kMaxExactPower)];
+        if (mantissa > std::numeric_limits<std::uint64_t>::max() / extra)
+            return false;
+        result = static_cast<Extended>(mantissa * extra) * kExactPowers[kMaxExactPower];
+    } else {
+        return false;
+    }
+    value = negative && result != 0 ? -result : result;
+    return true;
+}
+
 // Reads a calculator number text with the given separators. See Str2Float for the grammar.
 ScanResult ScanFloat(std::string_view s, char decimalSep, char thousandSep, Extended& value)
 {
+    if (ScanExact(s, decimalSep, thousandSep, value))
+        return ScanResult::Ok;
     s = TrimBlanks(s);
     bool negative = false;
     std::size_t i = 0;
@@ -329,29 +625,15 @@ ScanResult ScanFloat(std::string_view s, char decimalSep, char thousandSep, Exte
     if (mantissaDigits == 0)
         return ScanResult::Malformed;
 
-    // Exponent: "E" or "e", an optional sign and digits. A bare "E" or "E-" (an entry still
-    // being typed) counts as exponent zero.
-    long exponent = 0;
-    if (i < s.size() && (s[i] == 'E' || s[i] == 'e')) {
-        ++i;
-        bool negativeExponent = false;
-        if (i < s.size() && (s[i] == '-' || s[i] == '+'))
-            negativeExponent = s[i++] == '-';
-        const auto start = i;
-        while (i < s.size() && IsDigit(s[i]))
-            ++i;
-        if (i > start) {
-            plain += negativeExponent ? "e-" : "e";
-            plain.append(s.substr(start, i - start));
-            constexpr long kCap = 1'000'000'000L;
-            for (auto k = start; k < i && exponent < kCap; ++k)
-                exponent = exponent * 10 + (s[k] - '0');
-            if (negativeExponent)
-                exponent = -exponent;
-        }
-    }
-    if (i != s.size())
+    const ExponentPart exponentPart = ScanExponent(s, i);
+    if (exponentPart.end != s.size())
         return ScanResult::Malformed;
+    if (exponentPart.end > exponentPart.digitsStart) {
+        plain += exponentPart.negative ? "e-" : "e";
+        plain.append(
+            s.substr(exponentPart.digitsStart, exponentPart.end - exponentPart.digitsStart));
+    }
+    const long exponent = exponentPart.value;
 
     Extended parsed = 0;
     const auto [ptr, ec] = std::from_chars(plain.data(), plain.data() + plain.size(), parsed);
@@ -407,24 +689,26 @@ constexpr Radix kHex {4, rsInvalidHex};
 // digit at full width: the bit pattern is padded on the left to whole output digits.
 std::string ConvertDigits(std::string_view s, Radix from, Radix to)
 {
-    std::string bits;
-    bits.reserve(s.size() * static_cast<std::size_t>(from.bits) + 4);
+    // The input's bits, most significant first, fed through a small accumulator: each output
+    // digit is taken as soon as its bits are in. The left padding is the part of the first
+    // output digit that no input bit fills.
+    const std::size_t totalBits = s.size() * static_cast<std::size_t>(from.bits);
+    const auto width = static_cast<std::size_t>(to.bits);
+    std::string out((totalBits + width - 1) / width, '0');
+    std::uint32_t pending = 0;
+    std::size_t pendingBits = (width - totalBits % width) % width; // leading zeros
+    std::size_t next = 0;
     for (const char c : s) {
         const int v = DigitValue(c, from.bits);
         if (v < 0)
             ThrowConvert(from.invalid, s);
-        for (int b = from.bits - 1; b >= 0; --b)
-            bits += ((v >> b) & 1) ? '1' : '0';
-    }
-    const auto width = static_cast<std::size_t>(to.bits);
-    bits.insert(0, (width - bits.size() % width) % width, '0');
-    std::string out;
-    out.reserve(bits.size() / width);
-    for (std::size_t i = 0; i < bits.size(); i += width) {
-        int v = 0;
-        for (std::size_t b = 0; b < width; ++b)
-            v = v * 2 + (bits[i + b] - '0');
-        out += kHexDigits[v];
+        pending = (pending << from.bits) | static_cast<std::uint32_t>(v);
+        pendingBits += static_cast<std::size_t>(from.bits);
+        while (pendingBits >= width) {
+            pendingBits -= width;
+            out[next++] = kHexDigits[(pending >> pendingBits) & ((1U << width) - 1)];
+        }
+        pending &= (1U << pendingBits) - 1;
     }
     return out;
 }
@@ -489,6 +773,8 @@ constexpr std::string_view kNegativeCurrency[] = {
 
 bool TryStr2Float(std::string_view s, Extended& value) noexcept
 {
+    if (ScanExact(s, FormatSettings.DecimalSeparator, FormatSettings.ThousandSeparator, value))
+        return true;
     try {
         Extended v = 0;
         if (ScanFloat(s, FormatSettings.DecimalSeparator, FormatSettings.ThousandSeparator, v)

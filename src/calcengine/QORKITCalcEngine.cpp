@@ -95,6 +95,28 @@ std::string NegateExponent(const std::string& entry, std::size_t ePos)
     return negative ? head + digits : head + "-" + digits;
 }
 
+// Today's day number (the whole days of the local date-time). The local calendar is read once
+// and then trusted until 23 hours after the local midnight it fell in (no day is shorter), so
+// that constructing an engine costs a clock reading, not a calendar conversion.
+std::int64_t TodayNumber()
+{
+    using Clock = std::chrono::system_clock;
+    static std::int64_t day = 0;
+    static Clock::time_point validFrom = Clock::time_point::max();
+    static Clock::time_point validUntil = Clock::time_point::min();
+    const auto now = Clock::now();
+    if (now < validFrom || now >= validUntil) {
+        const TDateTime stamp = Now();
+        const Extended whole = std::floor(stamp);
+        day = static_cast<std::int64_t>(whole);
+        const auto sinceMidnight
+            = std::chrono::milliseconds(static_cast<std::int64_t>((stamp - whole) * 86'400'000.0L));
+        validFrom = std::chrono::time_point_cast<Clock::duration>(now - sinceMidnight);
+        validUntil = validFrom + std::chrono::hours(23);
+    }
+    return day;
+}
+
 } // namespace
 
 // ---- Construction, guard and events ------------------------------------------------------
@@ -104,8 +126,7 @@ TQORCalcEngine::TQORCalcEngine()
 {
     SetDisplayValue("0");
     // Today's day number: the seed changes once a day, by design.
-    const auto day = static_cast<std::int64_t>(std::floor(Now()));
-    RandomSeed(static_cast<std::uint64_t>(day));
+    RandomSeed(static_cast<std::uint64_t>(TodayNumber()));
 }
 
 // Runs one operation. Only the outermost guarded operation catches: a fault anywhere inside
@@ -175,8 +196,14 @@ std::string TQORCalcEngine::DisplayValue(Extended Value) const
 
 void TQORCalcEngine::SetDisplayValue(const std::string& S)
 {
-    displayStr_ = thousandsSeparators_ ? AddThousandsSeparators(S, lakhFormatting_) : S;
+    // Quiet: the text is kept as given (the error message must still be recognisable).
+    displayStr_ = thousandsSeparators_ && !quiet_ ? AddThousandsSeparators(S, lakhFormatting_) : S;
     Fire(onDisplayChange_);
+}
+
+std::string TQORCalcEngine::ShownValue(Extended Value) const
+{
+    return quiet_ ? std::string() : DisplayValue(Value);
 }
 
 Extended TQORCalcEngine::GetDisplayValue()
@@ -355,7 +382,7 @@ void TQORCalcEngine::SetDecimalPlaces(std::uint8_t Value)
     if (Value == decimalPlaces_)
         return;
     decimalPlaces_ = Value;
-    SetDisplayValue(DisplayValue(GetDisplayValue()));
+    SetDisplayValue(ShownValue(GetDisplayValue()));
     Fire(onDecimalPlacesChange_);
 }
 
@@ -406,14 +433,14 @@ void TQORCalcEngine::EmptyStacks()
 void TQORCalcEngine::ShowTop()
 {
     SetDisplayValue(operandTop_ >= 0
-                        ? DisplayValue(operandStack_[static_cast<std::size_t>(operandTop_)])
+                        ? ShownValue(operandStack_[static_cast<std::size_t>(operandTop_)])
                         : std::string("0"));
 }
 
 void TQORCalcEngine::ShowResult(Extended value)
 {
     value = CheckFloat(value);
-    SetDisplayValue(DisplayValue(value));
+    SetDisplayValue(ShownValue(value));
     entryStr_.clear();
     Push(value);
 }
@@ -985,6 +1012,8 @@ void TQORCalcEngine::SetMemory(Extended Value)
 
 void TQORCalcEngine::AddToHistory(const std::string& S, bool SameLine)
 {
+    if (quiet_)
+        return;
     if (SameLine && operatorSameLine_) {
         pendingOperatorText_ = S;
         return;
@@ -998,7 +1027,7 @@ void TQORCalcEngine::AddToHistory(const std::string& S, bool SameLine)
     Fire(onHistoryChange_);
 }
 
-void TQORCalcEngine::AddToHistory(Extended Value) { AddToHistory(DisplayValue(Value), false); }
+void TQORCalcEngine::AddToHistory(Extended Value) { AddToHistory(ShownValue(Value), false); }
 
 void TQORCalcEngine::PaperLine() { AddToHistory(rsPaperLine(), false); }
 

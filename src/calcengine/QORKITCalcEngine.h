@@ -238,6 +238,12 @@ public:
     bool GetEnableGrads() const noexcept { return enableGrads_; }
     void SetEnableGrads(bool Value) noexcept { enableGrads_ = Value; }
 
+    // Quiet: the engine computes as always but leaves its display text unformatted and writes
+    // no tape lines. For replays whose display and tape nobody reads (the expression
+    // evaluator's own engines); values, errors and events are unchanged.
+    bool GetQuiet() const noexcept { return quiet_; }
+    void SetQuiet(bool Value) noexcept { quiet_ = Value; }
+
     // ---- Events ----------------------------------------------------------------------------
     // Each is called only when assigned:
     //   OnDisplayChange        after every SetDisplayValue
@@ -272,6 +278,7 @@ private:
     void HandleError(const std::string& message);
 
     Extended TypedValue() const; // Str2Float of the entry; raises on malformed text
+    std::string ShownValue(Extended Value) const; // DisplayValue, or nothing when quiet
     void Push(Extended value);
     void PushOperator(char op);
     Extended PopOperand();
@@ -329,6 +336,7 @@ private:
     std::string pendingOperatorText_;
     bool operatorSameLine_ = false;
     int guardDepth_ = 0; // nesting of guarded operations; only the outermost one catches
+    bool quiet_ = false;
 };
 
 // ---- Named keys ----------------------------------------------------------------------------

@@ -10,6 +10,7 @@
 #include <QVariant>
 
 #include <cctype>
+#include <cstring>
 
 namespace qorkit {
 
@@ -140,6 +141,11 @@ QToolButton* TQORCalcFormBase::NewKey(const TQORKeyLook& look)
 
 QToolButton* TQORCalcFormBase::Key(const char* name) const
 {
+    // The keys this form made know their names; anything else is looked up among the children.
+    for (const auto& key : keyTexts_)
+        if (key.Look.Name != nullptr && std::strcmp(key.Look.Name, name) == 0
+            && key.Button->parent() == KeyPanel)
+            return key.Button;
     return KeyPanel->findChild<QToolButton*>(QString::fromLatin1(name), Qt::FindDirectChildrenOnly);
 }
 

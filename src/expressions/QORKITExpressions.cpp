@@ -192,10 +192,15 @@ std::string Translate(std::string_view text, std::string& unknown)
     return codes;
 }
 
-// The engine-less forms: a private engine whose percent is unary.
+// The engine-less forms: a private engine whose percent is unary. Nobody sees its display or
+// its tape, so it keeps neither.
 struct PrivateEngine {
     Engine engine;
-    PrivateEngine() { engine.SetBinaryPercent(false); }
+    PrivateEngine()
+    {
+        engine.SetBinaryPercent(false);
+        engine.SetQuiet(true);
+    }
 };
 
 } // namespace

@@ -12,6 +12,7 @@
 #include <exception>
 #include <limits>
 #include <string_view>
+#include <utility>
 
 namespace qorkit {
 
@@ -215,6 +216,41 @@ std::int64_t ParseDecimalEntry(const std::string& text)
     return static_cast<std::int64_t>(negative ? 0U - magnitude : magnitude);
 }
 
+// Digit values of the characters of an entry in bases up to 16 (either case); blanks are
+// group spacing, everything else is no digit.
+constexpr std::uint8_t kNoDigit = 0xFF;
+constexpr std::uint8_t kBlankDigit = 0xFE;
+constexpr auto kDigitValues = [] {
+    std::array<std::uint8_t, 256> table {};
+    table.fill(kNoDigit);
+    for (int c = '0'; c <= '9'; ++c)
+        table[static_cast<std::size_t>(c)] = static_cast<std::uint8_t>(c - '0');
+    for (int c = 0; c < 6; ++c) {
+        table[static_cast<std::size_t>('A' + c)] = static_cast<std::uint8_t>(10 + c);
+        table[static_cast<std::size_t>('a' + c)] = static_cast<std::uint8_t>(10 + c);
+    }
+    table[' '] = kBlankDigit;
+    return table;
+}();
+
+// The bits of a word size.
+std::uint64_t SizeMask(TQORBitSize size)
+{
+    const int bits = 8 << (size & 3U);
+    return bits == 64 ? ~0ULL : (1ULL << bits) - 1;
+}
+
+// The lowest `count` digits of v in base 2^radixBits, zero-filled: the bit pattern as text.
+// Written into `out`, whose storage is reused.
+void WritePattern(std::string& out, std::uint64_t v, int radixBits, int count)
+{
+    static constexpr char kDigits[] = "0123456789ABCDEF";
+    out.assign(static_cast<std::size_t>(count), '0');
+    const std::uint64_t digitMask = (1ULL << radixBits) - 1;
+    for (auto i = out.size(); i > 0 && v != 0; v >>= radixBits)
+        out[--i] = kDigits[v & digitMask];
+}
+
 // The entry text of a base as hexadecimal digits, at most the 16 of the int64 pattern.
 std::string EntryToHex(const std::string& text, TQORBaseDisplay base)
 {
@@ -279,67 +315,102 @@ void TQORProgCalcEngine::GetNoChars(int& hexChars, int& octChars, int& binChars)
     binChars = counts.Bin;
 }
 
-std::string TQORProgCalcEngine::CutHex(std::int64_t v) const
-{
-    return RightStr(PadChLeftStr(Int2EHex(v), '0', 16), kDigitCounts[bitSize_ & 3U].Hex);
-}
-
-std::string TQORProgCalcEngine::OctFromHex(const std::string& hex) const
-{
-    return RightStr(PadChLeftStr(Hex2Oct(hex), '0', 22), kDigitCounts[bitSize_ & 3U].Oct);
-}
-
-std::string TQORProgCalcEngine::BinFromHex(const std::string& hex) const
-{
-    return RightStr(PadChLeftStr(Hex2Bin(hex), '0', 64), kDigitCounts[bitSize_ & 3U].Bin);
-}
-
-std::string TQORProgCalcEngine::GroupedFor(TQORBaseDisplay base, const std::string& s) const
+std::string TQORProgCalcEngine::GroupedFor(TQORBaseDisplay base, std::string s) const
 {
     const int width = kGroupWidths[base & 3U][spacing_ & 3U];
-    return width == 0 ? s : GroupSpacing(s, width, ' ');
+    if (width == 0)
+        return s;
+    return GroupSpacing(s, width, ' ');
 }
 
-std::string TQORProgCalcEngine::Spaced(const std::string& s) const
+std::string TQORProgCalcEngine::Spaced(std::string s) const
 {
-    return GroupedFor(baseDisplay_, s);
+    return GroupedFor(baseDisplay_, std::move(s));
 }
 
 std::string TQORProgCalcEngine::DisplayValue(std::int64_t v) const
 {
-    const std::string hex16 = PadChLeftStr(Int2EHex(v), '0', 16);
+    const TDigitCounts& counts = kDigitCounts[bitSize_ & 3U];
+    const auto bits = static_cast<std::uint64_t>(v);
     std::string s;
     switch (baseDisplay_) {
     case bdBinary:
-        s = BinFromHex(hex16);
+        WritePattern(s, bits, 1, counts.Bin);
         break;
-    // Octal comes from the full 64-bit pattern, so a negative value at a small size shows the
-    // bits above the size that its top digit covers (-1 at 8 bits is "777"). Intended.
+    // Octal digits come from the full 64-bit pattern, so a negative value at a small size
+    // shows the bits above the size that its top digit covers (-1 at 8 bits is "777").
+    // Intended.
     case bdOctal:
-        s = OctFromHex(hex16);
+        WritePattern(s, bits, 3, counts.Oct);
         break;
     case bdDecimal:
         s = LeftStr(Int2EStr(v), maxDisplayLength_);
         break;
     default:
-        s = CutHex(v);
+        WritePattern(s, bits, 4, counts.Hex);
         break;
     }
-    return Spaced(s);
+    return Spaced(std::move(s));
+}
+
+void TQORProgCalcEngine::SetTexts(std::uint64_t bits, TQORBitSize size)
+{
+    if (textsSet_ && bits == textBits_ && size == textSize_ && !texts_.RejectedHex)
+        return;
+    textsSet_ = true;
+    textBits_ = bits;
+    textSize_ = size;
+    texts_.Made = 0;
+    texts_.RejectedHex = false;
+}
+
+// Each text is written on its first read after the pattern changed, then kept.
+const std::string& TQORProgCalcEngine::ValueText(TTextBase which) const
+{
+    static constexpr int kRadixBits[] = {4, 3, 1};
+    static constexpr int TDigitCounts::*kCounts[]
+        = {&TDigitCounts::Hex, &TDigitCounts::Oct, &TDigitCounts::Bin};
+    std::string& text = texts_.Text[which];
+    if (which == tbHex && texts_.RejectedHex)
+        return text;
+    if (!textsSet_) {
+        text.clear();
+    } else if ((texts_.Made & (1U << which)) == 0) {
+        WritePattern(text, textBits_, kRadixBits[which],
+                     kDigitCounts[textSize_ & 3U].*kCounts[which]);
+        texts_.Made = static_cast<std::uint8_t>(texts_.Made | (1U << which));
+    }
+    return text;
+}
+
+// The value text of the current base; decimal has none (it is formatted from the value).
+const std::string* TQORProgCalcEngine::BaseText() const
+{
+    switch (baseDisplay_) {
+    case bdBinary:
+        return &ValueText(tbBin);
+    case bdOctal:
+        return &ValueText(tbOct);
+    case bdDecimal:
+        return nullptr;
+    default:
+        return &ValueText(tbHex);
+    }
 }
 
 std::string TQORProgCalcEngine::CurrentText() const
 {
-    switch (baseDisplay_) {
-    case bdBinary:
-        return binText_;
-    case bdOctal:
-        return octText_;
-    case bdDecimal:
-        return DisplayValue(value_);
-    default:
-        return hexText_;
-    }
+    const std::string* text = BaseText();
+    return text != nullptr ? *text : DisplayValue(value_);
+}
+
+void TQORProgCalcEngine::ShowCurrentText()
+{
+    if (const std::string* text = BaseText())
+        display_ = *text;
+    else
+        display_ = DisplayValue(value_);
+    Notify(onDisplayChange_);
 }
 
 void TQORProgCalcEngine::SetDisplayValue0() { SetDisplayValue(DisplayValue(0)); }
@@ -352,35 +423,83 @@ void TQORProgCalcEngine::SetDisplayValue(const std::string& s)
 
 std::string TQORProgCalcEngine::GetDisplayStr() const
 {
+    // Without spacing a display free of blanks is its own text, the error message included.
+    if (kGroupWidths[baseDisplay_ & 3U][spacing_ & 3U] == 0 && !display_.empty()
+        && display_.find(' ') == std::string::npos)
+        return display_;
     const std::string error = rsErrorMsg();
     if (display_ == error)
         return display_;
     std::string s = RemoveGroupSpacing(display_, ' ');
     if (s.empty())
         s = RemoveGroupSpacing(DisplayValue(0), ' ');
-    return Spaced(s);
+    return Spaced(std::move(s));
+}
+
+// The entry's bit pattern read straight from its digits: the lowest 64 bits of a binary,
+// octal or hexadecimal entry, a decimal entry's value modulo 2^64. False when the entry holds
+// anything else; the text path then decides (and raises the conversion error).
+bool TQORProgCalcEngine::EntryValue(std::uint64_t& bits) const
+{
+    std::uint64_t v = 0;
+    if (baseDisplay_ == bdDecimal) {
+        std::size_t i = 0;
+        bool negative = false;
+        for (; i < entry_.size() && (entry_[i] == '+' || entry_[i] == '-' || entry_[i] == ' '); ++i)
+            negative = negative != (entry_[i] == '-');
+        for (; i < entry_.size(); ++i) {
+            const char c = entry_[i];
+            if (c == ' ')
+                continue;
+            if (c < '0' || c > '9')
+                return false;
+            v = v * 10U + static_cast<std::uint64_t>(c - '0');
+        }
+        bits = negative ? 0U - v : v;
+        return true;
+    }
+    const int radixBits = baseDisplay_ == bdBinary ? 1 : baseDisplay_ == bdOctal ? 3 : 4;
+    for (const char c : entry_) {
+        const std::uint8_t digit = kDigitValues[static_cast<unsigned char>(c)];
+        if (digit == kBlankDigit)
+            continue;
+        if (digit >= (1U << radixBits))
+            return false;
+        v = (v << radixBits) | digit;
+    }
+    bits = v;
+    return true;
 }
 
 void TQORProgCalcEngine::UpdateValues()
 {
-    int hexChars = 0;
-    int octChars = 0;
-    int binChars = 0;
-    GetNoChars(hexChars, octChars, binChars);
-    const std::string hex = RightStr(EntryToHex(entry_, baseDisplay_), hexChars);
-    hexText_ = RightStr(PadChLeftStr(hex, '0', 16), hexChars);
-    octText_ = OctFromHex(hexText_);
-    binText_ = BinFromHex(hexText_);
-    value_ = Hex2Int64(hexText_);
+    std::uint64_t bits = 0;
+    if (!EntryValue(bits)) {
+        const int hexChars = kDigitCounts[bitSize_ & 3U].Hex;
+        const std::string hex = RightStr(EntryToHex(entry_, baseDisplay_), hexChars);
+        const std::string cut = RightStr(PadChLeftStr(hex, '0', 16), hexChars);
+        try {
+            bits = static_cast<std::uint64_t>(Hex2Int64(cut));
+        } catch (const EConvertError&) {
+            // The hexadecimal text is written before it is converted: after the refusal it
+            // keeps the rejected digits, and the display shows them until the next value.
+            // Kept as it stands.
+            texts_.Text[tbHex] = cut;
+            texts_.RejectedHex = true;
+            throw;
+        }
+    }
+    bits &= SizeMask(bitSize_);
+    SetTexts(bits, bitSize_);
+    // Below 64 bits the pattern is a non-negative value; at 64 bits it is two's complement.
+    value_ = static_cast<std::int64_t>(bits);
 }
 
 void TQORProgCalcEngine::ConvertValues(std::int64_t v)
 {
     value_ = v;
-    hexText_ = CutHex(v);
-    octText_ = OctFromHex(hexText_);
-    binText_ = BinFromHex(hexText_);
-    SetDisplayValue(CurrentText());
+    SetTexts(static_cast<std::uint64_t>(v) & SizeMask(bitSize_), bitSize_);
+    ShowCurrentText();
 }
 
 void TQORProgCalcEngine::ChangeValues(TQORBaseDisplay oldBase, TQORBaseDisplay newBase)
@@ -419,12 +538,12 @@ std::string TQORProgCalcEngine::DisplayValueIn(TQORBaseDisplay textBase)
     UpdateValues();
     std::string s;
     if (!entry_.empty()) {
-        s = textBase == bdHexadecimal ? hexText_ : octText_;
+        s = textBase == bdHexadecimal ? ValueText(tbHex) : ValueText(tbOct);
     } else if (operandTop_ >= 0) {
         const std::string hex = Int2EHex(operands_[static_cast<std::size_t>(operandTop_)]);
         s = textBase == bdHexadecimal ? hex : textBase == bdOctal ? Hex2Oct(hex) : Hex2Bin(hex);
     }
-    return GroupedFor(textBase, s);
+    return GroupedFor(textBase, std::move(s));
 }
 
 std::string TQORProgCalcEngine::GetDisplayValueHex() { return DisplayValueIn(bdHexadecimal); }
@@ -435,7 +554,8 @@ std::string TQORProgCalcEngine::GetDisplayValueBin() { return DisplayValueIn(bdB
 
 void TQORProgCalcEngine::Numeric(char ch)
 {
-    ch = static_cast<char>(std::toupper(static_cast<unsigned char>(ch)));
+    if (ch >= 'a' && ch <= 'z')
+        ch = static_cast<char>(ch - 'a' + 'A');
     bool valid = false;
     switch (baseDisplay_) {
     case bdBinary:
@@ -454,7 +574,7 @@ void TQORProgCalcEngine::Numeric(char ch)
     if (!valid)
         return;
 
-    entry_ = StripLChStr(entry_, '0');
+    entry_.erase(0, entry_.find_first_not_of('0'));
     if (ch == '+' || ch == '-') {
         entry_.insert(entry_.begin(), ch);
     } else {
@@ -482,10 +602,12 @@ void TQORProgCalcEngine::Numeric(char ch)
     // Sign clean-up: "--" and "-+" cancel, "+-" is a minus.
     static constexpr std::array<std::pair<std::string_view, std::string_view>, 3> kSigns {
         {{"--", ""}, {"-+", ""}, {"+-", "-"}}};
-    for (const auto& [from, to] : kSigns) {
-        for (std::size_t at = entry_.find(from); at != std::string::npos;
-             at = entry_.find(from, at + to.size()))
-            entry_.replace(at, from.size(), to);
+    if (std::any_of(entry_.begin(), entry_.end(), [](char c) { return c == '+' || c == '-'; })) {
+        for (const auto& [from, to] : kSigns) {
+            for (std::size_t at = entry_.find(from); at != std::string::npos;
+                 at = entry_.find(from, at + to.size()))
+                entry_.replace(at, from.size(), to);
+        }
     }
     SetDisplayValue(entry_);
     lastKey_ = ch;
@@ -874,7 +996,7 @@ void TQORProgCalcEngine::SetBaseDisplay(TQORBaseDisplay value)
         Notify(onBitSizeChange_);
     }
     if (!pending)
-        SetDisplayValue(CurrentText());
+        ShowCurrentText();
     AddToHistory(TextOf(kBaseNames, value));
     Notify(onMemoryChange_);
 }
@@ -888,27 +1010,24 @@ void TQORProgCalcEngine::SetBaseDisplay2(TQORBaseDisplay value)
     ChangeValues(baseDisplay_, value);
     baseDisplay_ = value;
     UpdateValues();
-    SetDisplayValue(CurrentText());
+    ShowCurrentText();
 }
 
 // Extend moves the old sign bit to the new top position and leaves the other bits as they
 // are (8 to 16 bits: 80 becomes 8000, FF becomes 807F). This is the meaning of "Extend".
 void TQORProgCalcEngine::ExtendSignBit()
 {
-    if (binText_.size() <= 1 || binText_.front() != '1')
+    // The texts still hold the pattern at the old size: its top bit is the old sign.
+    if (!textsSet_)
         return;
-    int hexChars = 0;
-    int octChars = 0;
-    int binChars = 0;
-    GetNoChars(hexChars, octChars, binChars);
-    std::string bits = binText_;
-    bits.front() = '0';
-    hexText_ = RightStr(Bin2Hex(bits), hexChars);
-    binText_ = BinFromHex(hexText_);
-    binText_.front() = '1';
-    hexText_ = RightStr(PadChLeftStr(RightStr(Bin2Hex(binText_), hexChars), '0', 16), hexChars);
-    octText_ = OctFromHex(hexText_);
-    value_ = Hex2Int64(hexText_);
+    const int oldBits = 8 << (textSize_ & 3U);
+    if ((textBits_ >> (oldBits - 1) & 1U) == 0)
+        return;
+    const std::uint64_t topBit = 1ULL << ((8 << (bitSize_ & 3U)) - 1);
+    const std::uint64_t bits
+        = ((textBits_ & ~(1ULL << (oldBits - 1))) & SizeMask(bitSize_)) | topBit;
+    SetTexts(bits, bitSize_);
+    value_ = static_cast<std::int64_t>(bits);
     if (operandTop_ < 0)
         entry_ = baseDisplay_ == bdDecimal ? Int2EStr(value_) : CurrentText();
     else
@@ -933,7 +1052,7 @@ void TQORProgCalcEngine::SetBitSize(TQORBitSize value)
         break; // truncate: the result below is cut to the new size
     }
     AddToHistory(TextOf(kBitSizeTexts, value));
-    SetDisplayValue(CurrentText());
+    ShowCurrentText();
     Notify(onMemoryChange_);
     // Completes any half-entered expression at the new width.
     DoResult();
@@ -945,7 +1064,7 @@ void TQORProgCalcEngine::SetBitSize2(TQORBitSize value)
     if (value == bitSize_)
         return;
     bitSize_ = value;
-    SetDisplayValue(CurrentText());
+    ShowCurrentText();
     DoResult();
 }
 

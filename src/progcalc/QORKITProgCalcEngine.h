@@ -299,11 +299,10 @@ private:
     void HandleError(const std::string& message);
     void Notify(const TQORProgCalcNotifyEvent& handler);
     std::string CurrentText() const;
-    std::string OctFromHex(const std::string& hex) const;
-    std::string BinFromHex(const std::string& hex) const;
-    std::string CutHex(std::int64_t v) const;
-    std::string Spaced(const std::string& s) const;
-    std::string GroupedFor(TQORBaseDisplay base, const std::string& s) const;
+    std::string Spaced(std::string s) const;
+    std::string GroupedFor(TQORBaseDisplay base, std::string s) const;
+    const std::string* BaseText() const;
+    void ShowCurrentText(); // SetDisplayValue(CurrentText()) without a temporary text
     std::string DisplayValueIn(TQORBaseDisplay textBase);
     bool OperatorPending() const;
 
@@ -320,9 +319,22 @@ private:
 
     std::string entry_; // characters typed since the last operator or result
     std::int64_t value_ = 0;
-    std::string hexText_; // the value in base 16, 8 and 2, cut and zero-filled to the size
-    std::string octText_;
-    std::string binText_;
+    // The value texts in base 16, 8 and 2, cut and zero-filled to a size: they are the bit
+    // pattern textBits_ at the word size textSize_ of the moment they were last set (which
+    // can lag behind value_ and bitSize_), written out only when read.
+    std::uint64_t textBits_ = 0;
+    TQORBitSize textSize_ = bs8Bits;
+    bool textsSet_ = false; // all three are empty until first set
+    enum TTextBase : std::uint8_t { tbHex, tbOct, tbBin };
+    struct TValueTexts {
+        std::string Text[3]; // by TTextBase
+        std::uint8_t Made = 0; // bit per TTextBase: the text holds the current pattern
+        bool RejectedHex = false; // the hex text holds digits that failed to convert
+    };
+    mutable TValueTexts texts_;
+    void SetTexts(std::uint64_t bits, TQORBitSize size);
+    const std::string& ValueText(TTextBase which) const;
+    bool EntryValue(std::uint64_t& bits) const; // the entry's bits without any text
     std::string display_;
     std::string lastError_;
     char lastKey_ = ' '; // " ": nothing pending

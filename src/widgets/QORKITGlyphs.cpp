@@ -1,8 +1,11 @@
 #include "QORKITGlyphs.h"
 
+#include <QCoreApplication>
 #include <QPainter>
 
 #include <array>
+#include <map>
+#include <tuple>
 
 // The glyphs live in a static library: their resources must be registered by hand, from the
 // global namespace.
@@ -26,6 +29,28 @@ constexpr std::array<std::string_view, QORGlyphCount> GlyphNames = {
     "sqroot",   "invert", "exit",      "cancel",     "copy", "paste",
 };
 
+// One icon per glyph and one pixmap per glyph, size and scale, made on first use and shared
+// by every key and dialog afterwards: opening a dialog reads no SVG again. Pixmaps cannot
+// outlive the application object, so the cache empties itself when the application ends.
+struct GlyphCache {
+    std::array<QIcon, QORGlyphCount> icons;
+    std::map<std::tuple<int, int, int, qreal>, QPixmap> pixmaps;
+};
+
+GlyphCache* cache = nullptr;
+
+GlyphCache& Cache()
+{
+    if (cache == nullptr) {
+        cache = new GlyphCache;
+        qAddPostRoutine([] {
+            delete cache;
+            cache = nullptr;
+        });
+    }
+    return *cache;
+}
+
 } // namespace
 
 std::string_view QORGlyphName(TQORGlyph glyph)
@@ -45,9 +70,14 @@ QString QORGlyphPath(TQORGlyph glyph)
 
 QIcon QORGlyphIcon(TQORGlyph glyph)
 {
-    InitGlyphResources();
-    const QString path = QORGlyphPath(glyph);
-    return path.isEmpty() ? QIcon() : QIcon(path);
+    if (glyph >= QORGlyphCount)
+        return {};
+    QIcon& icon = Cache().icons[glyph];
+    if (icon.isNull()) {
+        InitGlyphResources();
+        icon = QIcon(QORGlyphPath(glyph));
+    }
+    return icon;
 }
 
 QPixmap QORGlyphPixmap(TQORGlyph glyph, QSize logicalSize, qreal devicePixelRatio)
@@ -55,6 +85,11 @@ QPixmap QORGlyphPixmap(TQORGlyph glyph, QSize logicalSize, qreal devicePixelRati
     const QIcon icon = QORGlyphIcon(glyph);
     if (icon.isNull() || logicalSize.isEmpty() || devicePixelRatio <= 0)
         return {};
+    const auto key = std::make_tuple(static_cast<int>(glyph), logicalSize.width(),
+                                     logicalSize.height(), devicePixelRatio);
+    auto& pixmaps = Cache().pixmaps;
+    if (const auto found = pixmaps.find(key); found != pixmaps.end())
+        return found->second;
     // Drawn straight at the device size, so a doubled screen gets twice the detail rather
     // than a scaled-up bitmap.
     QPixmap pixmap(logicalSize * devicePixelRatio);
@@ -64,6 +99,7 @@ QPixmap QORGlyphPixmap(TQORGlyph glyph, QSize logicalSize, qreal devicePixelRati
         icon.paint(&painter, pixmap.rect());
     }
     pixmap.setDevicePixelRatio(devicePixelRatio);
+    pixmaps.emplace(key, pixmap);
     return pixmap;
 }
 
