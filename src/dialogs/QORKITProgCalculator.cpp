@@ -262,6 +262,7 @@ void TQORProgCalcForm::RefreshDisplays()
 TQORProgCalculator::TQORProgCalculator(QObject* owner) : TQORCalcComponentT(owner)
 {
     SetPrefixFunctions(true);
+    SetDispFont(ToQ(QORCalcDispFont));
 }
 
 void TQORProgCalculator::SetMemory(std::int64_t value)
