@@ -4,9 +4,12 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QFontInfo>
+#include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QScreen>
+#include <QStyle>
 #include <QVariant>
 
 #include <cctype>
@@ -16,6 +19,8 @@ namespace qorkit {
 namespace {
 
 constexpr int PanelHeight = 20; // value and memory panels
+constexpr int MinCaptionPixels = 6; // the smallest size a key caption is shrunk to
+constexpr int CaptionAir = 1; // free pixels kept between a caption and the key's frame
 
 // Exit, Cancel and the clipboard keys, with the form's own handlers.
 struct TFrameKey {
@@ -133,6 +138,7 @@ QToolButton* TQORCalcFormBase::NewKey(const TQORKeyLook& look)
     keyTexts_.push_back({button, look});
     if (look.Caption != nullptr)
         button->setText(ToQ(look.Caption()));
+    FitKeyCaption(button);
     if (look.Hint != nullptr)
         button->setToolTip(ToQ(look.Hint()));
     return button;
@@ -154,6 +160,53 @@ void TQORCalcFormBase::UpdateLanguage()
     }
     ValueDisplay->setToolTip(ToQ(rsValueHint()));
     MemoryDisplay->setToolTip(ToQ(rsMemoryHint()));
+    FitKeyCaptions();
+}
+
+void TQORCalcFormBase::SetKeyText(QToolButton* key, const QString& text)
+{
+    key->setText(text);
+    FitKeyCaption(key);
+}
+
+void TQORCalcFormBase::FitKeyCaption(QToolButton* key) const
+{
+    if (key->toolButtonStyle() != Qt::ToolButtonTextOnly)
+        return;
+    // The style draws the caption centred inside the key's frame.
+    const int frame = key->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, key);
+    const qreal room = key->contentsRect().width() - 2 * (frame + CaptionAir);
+    const QString text = key->text();
+    const auto fits = [&](const QFont& font) {
+        return QFontMetricsF(font, key).horizontalAdvance(text) <= room;
+    };
+    const QFont base = KeyPanel->font();
+    if (fits(base)) {
+        key->setFont(QFont()); // back to the inherited font
+        return;
+    }
+    QFont font = base;
+    for (int pixels = QFontInfo(base).pixelSize() - 1; pixels >= MinCaptionPixels; --pixels) {
+        font.setPixelSize(pixels);
+        if (fits(font))
+            break;
+    }
+    key->setFont(font);
+}
+
+void TQORCalcFormBase::FitKeyCaptions() const
+{
+    if (KeyPanel == nullptr)
+        return; // the form's own font is set before its keys exist
+    for (auto* key : KeyPanel->findChildren<QToolButton*>(Qt::FindDirectChildrenOnly))
+        FitKeyCaption(key);
+}
+
+void TQORCalcFormBase::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        FitKeyCaptions();
 }
 
 void TQORCalcFormBase::PlaceKeys(std::span<const TQORKeyPlace> places, int rows)
@@ -169,6 +222,7 @@ void TQORCalcFormBase::PlaceKeys(std::span<const TQORKeyPlace> places, int rows)
         }
     }
     KeyPanel->resize(geometry_.Columns * w, rows * h);
+    FitKeyCaptions();
 }
 
 void TQORCalcFormBase::LayoutPanels(int rows, int extraHeight)

@@ -169,6 +169,9 @@ public:
 
     // Texts of every key and the caption from the resource strings.
     virtual void UpdateLanguage();
+    // Sets a text key's caption, in a smaller font when the form's font would not fit it
+    // into the key (see FitKeyCaption).
+    void SetKeyText(QToolButton* key, const QString& text);
     // The engine's last error text.
     virtual std::string GetLastError() const = 0;
 
@@ -199,6 +202,11 @@ protected:
     }
 
     QToolButton* NewKey(const TQORKeyLook& look);
+    // Gives a text key the key panel's font, or the largest smaller size of it in which the
+    // caption fits between the key's frame: keys keep their size whatever the caption, the
+    // language, the font or the screen scale.
+    void FitKeyCaption(QToolButton* key) const;
+    void FitKeyCaptions() const;
     QToolButton* Key(const char* name) const;
     // Lays the keys out in the grid and sizes the key panel; keys missing from `places` are
     // hidden.
@@ -225,6 +233,7 @@ protected:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
     const TQORFormGeometry geometry_;
 
