@@ -154,6 +154,12 @@ public:
     void ApplyDispFont(const QString& description);
     // Family of both display panels; an empty name keeps the present one.
     void SetDispFontName(const QString& family);
+    // Shows `text` in a display panel, fitted to it: text too wide for the panel is broken
+    // before its last 32 digits (a 64-bit binary value reads as two lines of 32 bits) and set
+    // in the largest smaller size of the display font in which every line fits.
+    void ShowFitted(TQORBasePanel* panel, const QString& text);
+    // The text a panel shows, on one line as the engine gave it.
+    QString DisplayText(const TQORBasePanel* panel) const;
     bool GetStayOnTop() const { return stayOnTop_; }
     void SetStayOnTop(bool value);
     // A non-null icon replaces the glyph of Exit, Copy, Paste, Cancel.
@@ -243,11 +249,15 @@ private:
     void Click(const char* name);
     void ApplyWindowFlags();
 
+    void SetDisplayFont(const QFont& font);
+
     struct KeyText {
         QToolButton* Button;
         TQORKeyLook Look;
     };
     std::vector<KeyText> keyTexts_;
+    QFont displayFont_; // of both panels, before any fitting
+    std::vector<std::pair<TQORBasePanel*, QString>> fittedTexts_;
     bool cancelled_ = false;
     bool flat_ = false;
     bool stayOnTop_ = false;

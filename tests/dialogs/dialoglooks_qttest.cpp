@@ -7,10 +7,12 @@
 #include "QORKITProgCalculator.h"
 #include "QORKITSciCalculator.h"
 
+#include <QClipboard>
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <QStyle>
 
+#include <limits>
 #include <set>
 
 namespace qorkit {
@@ -124,6 +126,98 @@ INSTANTIATE_TEST_SUITE_P(Fonts, CaptionsFit,
                                            FontRow {"Serif16", "DejaVu Serif", 16},
                                            FontRow {"Mono14", "DejaVu Sans Mono", 14}),
                          test::RowName<FontRow>);
+
+// ---- The programmer's panels ----------------------------------------------------------------
+
+struct PanelRow {
+    const char* Name;
+    TQORBaseDisplay Base;
+    TQORBitSize Size;
+    TQORProgSpacing Spacing;
+    std::int64_t Value;
+    int Lines; // of the value panel
+};
+
+class ProgPanelsFit : public CalcDialogTest, public ::testing::WithParamInterface<PanelRow> {
+protected:
+    // The panel shows every digit of `expected` and every line fits inside its frame.
+    static void ExpectShown(const TQORBasePanel* panel, const QString& expected, int lines)
+    {
+        const QString shown = panel->text();
+        QString digits = shown;
+        digits.remove(QLatin1Char('\n')).remove(QLatin1Char(' '));
+        QString wanted = expected;
+        wanted.remove(QLatin1Char(' '));
+        EXPECT_EQ(digits, wanted) << panel->objectName().toStdString();
+        const QStringList parts = shown.split(QLatin1Char('\n'));
+        EXPECT_EQ(parts.size(), lines) << shown.toStdString();
+        const QFontMetricsF metrics(panel->font(), panel);
+        for (const QString& line : parts)
+            EXPECT_LE(metrics.horizontalAdvance(line) + panel->indent(),
+                      panel->contentsRect().width())
+                << line.toStdString();
+        EXPECT_LE(static_cast<qreal>(parts.size()) * metrics.lineSpacing(), panel->contentsRect().height())
+            << shown.toStdString();
+        EXPECT_GE(QFontInfo(panel->font()).pixelSize(), 6);
+    }
+};
+
+TEST_P(ProgPanelsFit, EveryDigitShowsInsideTheFixedDialog)
+{
+    const PanelRow& row = GetParam();
+    TQORProgCalcForm form;
+    IQORProgCalcEngine& engine = form.GetCalcEngine();
+    engine.SetBaseDisplay(row.Base);
+    engine.SetBitSize(row.Size);
+    engine.SetSpacing(row.Spacing);
+    engine.InputValue(row.Value);
+    engine.SetMemory(row.Value);
+    form.RefreshDisplays();
+
+    const QString display = QString::fromStdString(engine.GetDisplayStr());
+    ExpectShown(form.ValueDisplay, display, row.Lines);
+    ExpectShown(form.MemoryDisplay, QString::fromStdString(engine.GetMemoryContents()),
+                row.Base == bdBinary && row.Size == bs64Bits ? 2 : 1);
+    EXPECT_EQ(form.size(), QSize(417, 152));
+    // Two lines are for the eye: the value copied is the engine's one line.
+    form.CopyBtn->click();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), display);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Values, ProgPanelsFit,
+    ::testing::Values(PanelRow {"MinusOneBinary64", bdBinary, bs64Bits, psNoSpacing, -1, 2},
+                      PanelRow {"MinusOneBinary64Bytes", bdBinary, bs64Bits, psByte, -1, 2},
+                      PanelRow {"HighBitBinary64Words", bdBinary, bs64Bits, psWord,
+                                std::numeric_limits<std::int64_t>::min(), 2},
+                      PanelRow {"Binary32", bdBinary, bs32Bits, psNoSpacing, -1, 1},
+                      PanelRow {"Hex64", bdHexadecimal, bs64Bits, psByte, -1, 1},
+                      PanelRow {"Octal64", bdOctal, bs64Bits, psNoSpacing, -1, 1},
+                      PanelRow {"Decimal64", bdDecimal, bs64Bits, psNoSpacing,
+                                std::numeric_limits<std::int64_t>::min(), 1}),
+    test::RowName<PanelRow>);
+
+TEST_F(CalcDialogTest, ProgPanelsFitAgainWhenTheDisplayFontChanges)
+{
+    TQORProgCalcForm form;
+    IQORProgCalcEngine& engine = form.GetCalcEngine();
+    engine.SetBaseDisplay(bdBinary);
+    engine.SetBitSize(bs64Bits);
+    engine.InputValue(-1);
+    form.RefreshDisplays();
+    form.ApplyDispFont(QStringLiteral("DejaVu Serif,14,-1,5,700,0,0,0,0,0"));
+    const QStringList lines = form.ValueDisplay->text().split(QLatin1Char('\n'));
+    ASSERT_EQ(lines.size(), 2);
+    EXPECT_EQ(lines[1], QString(32, QLatin1Char('1')));
+    EXPECT_LE(
+        QFontMetricsF(form.ValueDisplay->font(), form.ValueDisplay).horizontalAdvance(lines[0]),
+        form.ValueDisplay->contentsRect().width());
+    EXPECT_EQ(form.ValueDisplay->font().family(), QStringLiteral("DejaVu Serif"));
+    // Back to a short value: one line in the display font itself.
+    engine.SetBaseDisplay(bdHexadecimal);
+    EXPECT_EQ(form.ValueDisplay->text(), QString(16, QLatin1Char('F')));
+    EXPECT_EQ(form.ValueDisplay->font().pointSize(), 14);
+}
 
 } // namespace
 } // namespace qorkit
