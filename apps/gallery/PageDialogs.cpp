@@ -1,6 +1,6 @@
 // The calculator dialogs: buttons that open each one through its component, with the result
-// shown beside them. The screenshot run writes the standard, small, scientific and
-// programmer's calculators.
+// shown beside them. The screenshot run writes the standard, small, scientific (also with Inv
+// and Hyp on) and programmer's calculators (also -1 in 64-bit binary).
 #include "GalleryPages.h"
 #include "QORKITCalculator.h"
 #include "QORKITProgCalculator.h"
@@ -70,6 +70,29 @@ template<class Form> Form* FloatShot(bool small)
     return form;
 }
 
+// The scientific calculator with Inv and Hyp on: the longest captions ("asinh", "10^x").
+QWidget* SciInvHypShot()
+{
+    auto* form = FloatShot<TQORSciCalcForm>(false);
+    form->InvBtn->click();
+    form->HypBtn->click();
+    return form;
+}
+
+// The programmer's calculator in binary with -1 at 64 bits, in the value and in memory.
+QWidget* ProgMinusOneShot()
+{
+    auto* form = new TQORProgCalcForm;
+    IQORProgCalcEngine& engine = form->GetCalcEngine();
+    engine.SetBaseDisplay(bdBinary);
+    engine.SetBitSize(bs64Bits);
+    engine.SetSpacing(psByte);
+    engine.InputValue(-1);
+    engine.SetMemory(-1);
+    form->RefreshDisplays();
+    return form;
+}
+
 std::vector<std::pair<QString, QWidget*>> DialogShots()
 {
     auto* prog = new TQORProgCalcForm;
@@ -84,7 +107,9 @@ std::vector<std::pair<QString, QWidget*>> DialogShots()
         {QStringLiteral("dialog-calculator.png"), FloatShot<TQORCalcForm>(false)},
         {QStringLiteral("dialog-small-calculator.png"), FloatShot<TQORCalcForm>(true)},
         {QStringLiteral("dialog-sci-calculator.png"), FloatShot<TQORSciCalcForm>(false)},
+        {QStringLiteral("dialog-sci-calculator-inv-hyp.png"), SciInvHypShot()},
         {QStringLiteral("dialog-prog-calculator-binary.png"), prog},
+        {QStringLiteral("dialog-prog-calculator-binary-minus-one.png"), ProgMinusOneShot()},
     };
 }
 

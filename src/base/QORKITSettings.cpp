@@ -6,7 +6,7 @@ TFormatSettings FormatSettings;
 
 bool QORCalcRadians = true;
 Extended QORCalcMemory = 0;
-std::string QORCalcDispFont;
+std::string QORCalcDispFont = QORDefaultCalcDispFont;
 std::int64_t QORProgCalcMemory = 0;
 
 TQORRegIniType QORRegIniType = ritNone;
@@ -60,7 +60,7 @@ void ResetGlobalSettings()
     FormatSettings = TFormatSettings {};
     QORCalcRadians = true;
     QORCalcMemory = 0;
-    QORCalcDispFont.clear();
+    QORCalcDispFont = QORDefaultCalcDispFont;
     QORProgCalcMemory = 0;
     QORRegIniType = ritNone;
     QORRegPath.clear();

@@ -34,6 +34,9 @@ struct TFormatSettings {
 // The process-wide format settings, read by every text routine at each call.
 extern TFormatSettings FormatSettings;
 
+// The calculator display font that QORCalcDispFont starts with: a family name.
+inline constexpr char QORDefaultCalcDispFont[] = "Arial";
+
 // Calculator settings shared by the calculator dialogs between runs.
 extern bool QORCalcRadians; // calculators start in radians (false: degrees)
 extern Extended QORCalcMemory; // memory register of the floating-point calculators

@@ -4,11 +4,15 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QFontInfo>
+#include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QScreen>
+#include <QStyle>
 #include <QVariant>
 
+#include <algorithm>
 #include <cctype>
 #include <cstring>
 
@@ -17,6 +21,27 @@ namespace qorkit {
 namespace {
 
 constexpr int PanelHeight = 20; // value and memory panels
+constexpr int MinCaptionPixels = 6; // the smallest size a key caption is shrunk to
+constexpr int CaptionAir = 1; // free pixels kept between a caption and the key's frame
+constexpr int DigitsPerLine = 32; // a long display breaks before its last 32 digits
+
+// `text` as lines: one, or two when it has more than DigitsPerLine digits (the last
+// DigitsPerLine on the second line, group spacing kept).
+QStringList DisplayLines(const QString& text)
+{
+    int digits = 0;
+    for (qsizetype i = text.size() - 1; i > 0; --i) {
+        if (text[i].isSpace())
+            continue;
+        if (++digits == DigitsPerLine) {
+            const QString first = text.left(i).trimmed();
+            if (first.isEmpty())
+                break;
+            return {first, text.mid(i).trimmed()};
+        }
+    }
+    return {text};
+}
 
 // Exit, Cancel and the clipboard keys, with the form's own handlers.
 struct TFrameKey {
@@ -100,6 +125,7 @@ TQORCalcFormBase::TQORCalcFormBase(QWidget* parent, TQORFormGeometry geometry, Q
         panel->setObjectName(QString::fromLatin1(name));
         panel->SetAlignment(Qt::AlignRight | Qt::AlignVCenter);
         panel->setIndent(4);
+        panel->setTextFormat(Qt::PlainText);
         panel->SetColor(palette().color(QPalette::Base));
         QFont font = panel->font();
         font.setBold(true);
@@ -108,6 +134,7 @@ TQORCalcFormBase::TQORCalcFormBase(QWidget* parent, TQORFormGeometry geometry, Q
     };
     ValueDisplay = makeDisplay("ValueDisplay");
     MemoryDisplay = makeDisplay("MemoryDisplay");
+    displayFont_ = ValueDisplay->font();
     for (const auto& key : FrameKeys) {
         QToolButton* button = NewKey(key.Look);
         this->*(key.Member) = button;
@@ -134,6 +161,7 @@ QToolButton* TQORCalcFormBase::NewKey(const TQORKeyLook& look)
     keyTexts_.push_back({button, look});
     if (look.Caption != nullptr)
         button->setText(ToQ(look.Caption()));
+    FitKeyCaption(button);
     if (look.Hint != nullptr)
         button->setToolTip(ToQ(look.Hint()));
     return button;
@@ -198,6 +226,55 @@ void TQORCalcFormBase::UpdateLanguage()
     }
     ValueDisplay->setToolTip(ToQ(rsValueHint()));
     MemoryDisplay->setToolTip(ToQ(rsMemoryHint()));
+    FitKeyCaptions();
+}
+
+void TQORCalcFormBase::SetKeyText(QToolButton* key, const QString& text)
+{
+    key->setText(text);
+    FitKeyCaption(key);
+}
+
+void TQORCalcFormBase::FitKeyCaption(QToolButton* key) const
+{
+    if (key->toolButtonStyle() != Qt::ToolButtonTextOnly)
+        return;
+    // The style draws the caption centred inside the key's frame.
+    const int frame = key->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, key);
+    const qreal room = key->contentsRect().width() - 2 * (frame + CaptionAir);
+    const QString text = key->text();
+    const auto fits = [&](const QFont& font) {
+        return QFontMetricsF(font, key).horizontalAdvance(text) <= room;
+    };
+    const QFont base = KeyPanel->font();
+    if (fits(base)) {
+        key->setFont(QFont()); // back to the inherited font
+        return;
+    }
+    QFont font = base;
+    for (int pixels = QFontInfo(base).pixelSize() - 1; pixels >= MinCaptionPixels; --pixels) {
+        font.setPixelSize(pixels);
+        if (fits(font))
+            break;
+    }
+    key->setFont(font);
+}
+
+void TQORCalcFormBase::FitKeyCaptions() const
+{
+    if (KeyPanel == nullptr)
+        return; // the form's own font is set before its keys exist
+    for (auto* key : KeyPanel->findChildren<QToolButton*>(Qt::FindDirectChildrenOnly))
+        FitKeyCaption(key);
+}
+
+void TQORCalcFormBase::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        UpdateLanguage();
+    else if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        FitKeyCaptions();
 }
 
 void TQORCalcFormBase::PlaceKeys(std::span<const TQORKeyPlace> places, int rows)
@@ -213,6 +290,7 @@ void TQORCalcFormBase::PlaceKeys(std::span<const TQORKeyPlace> places, int rows)
         }
     }
     KeyPanel->resize(geometry_.Columns * w, rows * h);
+    FitKeyCaptions();
 }
 
 void TQORCalcFormBase::LayoutPanels(int rows, int extraHeight)
@@ -321,7 +399,10 @@ bool TQORCalcFormBase::eventFilter(QObject* watched, QEvent* event)
     return true;
 }
 
-void TQORCalcFormBase::CopyClick() { QGuiApplication::clipboard()->setText(ValueDisplay->text()); }
+void TQORCalcFormBase::CopyClick()
+{
+    QGuiApplication::clipboard()->setText(DisplayText(ValueDisplay));
+}
 
 void TQORCalcFormBase::PasteClick()
 {
@@ -357,22 +438,71 @@ void TQORCalcFormBase::ApplyDispFont(const QString& description)
 {
     if (description.isEmpty())
         return;
-    QFont font = ValueDisplay->font();
+    QFont font = displayFont_;
     if (!font.fromString(description))
         font.setFamily(description);
-    ValueDisplay->setFont(font);
-    MemoryDisplay->setFont(font);
+    SetDisplayFont(font);
 }
 
 void TQORCalcFormBase::SetDispFontName(const QString& family)
 {
     if (family.isEmpty())
         return;
-    for (auto* panel : {ValueDisplay, MemoryDisplay}) {
-        QFont font = panel->font();
-        font.setFamily(family);
-        panel->setFont(font);
+    QFont font = displayFont_;
+    font.setFamily(family);
+    SetDisplayFont(font);
+}
+
+void TQORCalcFormBase::SetDisplayFont(const QFont& font)
+{
+    displayFont_ = font;
+    ValueDisplay->setFont(font);
+    MemoryDisplay->setFont(font);
+    for (const auto& [panel, text] : std::vector(fittedTexts_))
+        ShowFitted(panel, text);
+}
+
+void TQORCalcFormBase::ShowFitted(TQORBasePanel* panel, const QString& text)
+{
+    const auto known = std::find_if(fittedTexts_.begin(), fittedTexts_.end(),
+                                    [panel](const auto& entry) { return entry.first == panel; });
+    if (known != fittedTexts_.end())
+        known->second = text;
+    else
+        fittedTexts_.emplace_back(panel, text);
+
+    const QRect room = panel->contentsRect().adjusted(
+        panel->margin(), panel->margin(), -panel->margin() - panel->indent() - 1, -panel->margin());
+    const auto fits = [&](const QFont& font, const QStringList& lines) {
+        const QFontMetricsF metrics(font, panel);
+        if (static_cast<qreal>(lines.size()) * metrics.lineSpacing() > room.height())
+            return false;
+        return std::all_of(lines.begin(), lines.end(), [&](const QString& line) {
+            return metrics.horizontalAdvance(line) <= room.width();
+        });
+    };
+    QStringList lines {text};
+    QFont font = displayFont_;
+    if (!fits(font, lines)) {
+        lines = DisplayLines(text);
+        for (int pixels = QFontInfo(displayFont_).pixelSize(); pixels >= MinCaptionPixels;
+             --pixels) {
+            font.setPixelSize(pixels);
+            if (fits(font, lines))
+                break;
+        }
     }
+    panel->setFont(font);
+    panel->setText(lines.join(QLatin1Char('\n')));
+}
+
+QString TQORCalcFormBase::DisplayText(const TQORBasePanel* panel) const
+{
+    for (const auto& [fitted, text] : fittedTexts_) {
+        if (fitted == panel)
+            return text;
+    }
+    return panel->text();
 }
 
 void TQORCalcFormBase::SetStayOnTop(bool value)
@@ -437,13 +567,6 @@ void TQORCalcFormBase::showEvent(QShowEvent* event)
     }
     QDialog::showEvent(event);
     KeyPanel->setFocus(Qt::OtherFocusReason);
-}
-
-void TQORCalcFormBase::changeEvent(QEvent* event)
-{
-    QDialog::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
-        UpdateLanguage();
 }
 
 // ---- Components ------------------------------------------------------------------------------
@@ -678,7 +801,7 @@ bool TQORCalcComponent::RunDialog()
     const bool accepted = !form->GetCancelled();
     lastError_ = ToQ(form->GetLastError());
     if (accepted) {
-        displayText_ = form->ValueDisplay->text();
+        displayText_ = form->DisplayText(form->ValueDisplay);
         ReadBack(*form);
     }
     return accepted;

@@ -147,6 +147,12 @@ public:
     void ApplyDispFont(const QString& description);
     // Family of both display panels; an empty name keeps the present one.
     void SetDispFontName(const QString& family);
+    // Shows `text` in a display panel, fitted to it: text too wide for the panel is broken
+    // before its last 32 digits (a 64-bit binary value reads as two lines of 32 bits) and set
+    // in the largest smaller size of the display font in which every line fits.
+    void ShowFitted(TQORBasePanel* panel, const QString& text);
+    // The text a panel shows, on one line as the engine gave it.
+    QString DisplayText(const TQORBasePanel* panel) const;
     bool GetStayOnTop() const { return stayOnTop_; }
     void SetStayOnTop(bool value);
     // A non-null icon replaces the glyph of Exit, Copy, Paste, Cancel.
@@ -160,6 +166,9 @@ public:
     int GetHelpContext() const { return helpContext_; }
     void SetHelpContext(int value) { helpContext_ = value; }
 
+    // Sets a text key's caption, in a smaller font when the form's font would not fit it
+    // into the key (see FitKeyCaption).
+    void SetKeyText(QToolButton* key, const QString& text);
     // The engine's last error text.
     virtual std::string GetLastError() const = 0;
 
@@ -199,6 +208,11 @@ protected:
 
     QToolButton* NewKey(const TQORKeyLook& look);
     // The key of that name, or null.
+    // Gives a text key the key panel's font, or the largest smaller size of it in which the
+    // caption fits between the key's frame: keys keep their size whatever the caption, the
+    // language, the font or the screen scale.
+    void FitKeyCaption(QToolButton* key) const;
+    void FitKeyCaptions() const;
     QToolButton* Key(const char* name) const;
     // The key of a name from one of the form's tables: a name that names no key is a fault of
     // the table; it asserts in debug builds and is reported by UnknownKeyNames().
@@ -238,6 +252,8 @@ private:
     void Click(const char* name);
     void ApplyWindowFlags();
 
+    void SetDisplayFont(const QFont& font);
+
     struct KeyText {
         QToolButton* Button;
         TQORKeyLook Look;
@@ -245,6 +261,8 @@ private:
     std::vector<KeyText> keyTexts_;
     mutable QStringList unknownKeys_; // names TableKey could not find
     QString defaultTitle_; // the caption UpdateLanguage gave
+    QFont displayFont_; // of both panels, before any fitting
+    std::vector<std::pair<TQORBasePanel*, QString>> fittedTexts_;
     bool cancelled_ = false;
     bool flat_ = false;
     bool stayOnTop_ = false;

@@ -138,7 +138,7 @@ TQORFloatCalcForm::TQORFloatCalcForm(QWidget* parent, TQORFormGeometry geometry)
         DPSpin->setValue(engine_.GetDecimalPlaces());
     });
     connect(front, &TQORCalcEngineObject::angleModeChange, this,
-            [this] { RadBtn->setText(QString::fromStdString(engine_.GetAngleModeStr())); });
+            [this] { SetKeyText(RadBtn, QString::fromStdString(engine_.GetAngleModeStr())); });
     connect(front, &TQORCalcEngineObject::togglesChange, this, &TQORFloatCalcForm::ShowToggles);
 }
 
@@ -156,7 +156,7 @@ void TQORFloatCalcForm::RefreshDisplays()
 {
     ValueDisplay->setText(QString::fromStdString(engine_.GetDisplayStr()));
     MemoryDisplay->setText(QString::fromStdString(engine_.GetMemoryContents()));
-    RadBtn->setText(QString::fromStdString(engine_.GetAngleModeStr()));
+    SetKeyText(RadBtn, QString::fromStdString(engine_.GetAngleModeStr()));
     const QSignalBlocker quiet(DPSpin);
     DPSpin->setValue(engine_.GetDecimalPlaces());
 }
@@ -182,7 +182,7 @@ void TQORFloatCalcForm::UpdateLanguage()
 {
     TQORCalcFormBase::UpdateLanguage();
     DPSpin->setToolTip(QString::fromStdString(rsDecimalsHint()));
-    RadBtn->setText(QString::fromStdString(engine_.GetAngleModeStr()));
+    SetKeyText(RadBtn, QString::fromStdString(engine_.GetAngleModeStr()));
     ShowToggles();
 }
 
@@ -209,7 +209,7 @@ void TQORFloatCalcForm::ShowToggles()
         } else if (inv) {
             text = label.InvCaption();
         }
-        button->setText(QString::fromStdString(text));
+        SetKeyText(button, QString::fromStdString(text));
     }
 }
 

@@ -18,6 +18,11 @@ constexpr TQORFormGeometry ProgGeometry {31, 22, 13, 4};
 constexpr int ClientWidth = 417;
 constexpr int ClientHeight = 152;
 constexpr int ComboWidth = 72;
+constexpr int ValueTop = 3;
+constexpr int ValueHeight = 26;
+constexpr int RowTop = 31; // the memory panel and the two lists
+constexpr int RowHeight = 24;
+constexpr int KeysTop = 57;
 
 using TProgKey = TQORKeyDef<TQORProgCalcForm, IQORProgCalcEngine>;
 
@@ -186,27 +191,26 @@ TQORProgCalcForm::TQORProgCalcForm(QWidget* parent)
     PlaceKeys(ProgPlaces, ProgGeometry.Rows);
     const int keysWidth = ProgGeometry.Columns * ProgGeometry.KeyWidth;
     const int keysLeft = (ClientWidth - keysWidth) / 2;
-    const int rowTop = 30;
-    ValueDisplay->setGeometry(keysLeft, 5, keysWidth, 20);
-    MemoryDisplay->setGeometry(keysLeft, rowTop, keysWidth - 2 * ComboWidth - 8,
-                               ProgGeometry.KeyHeight);
-    BaseCombo->setGeometry(keysLeft + keysWidth - 2 * ComboWidth - 4, rowTop, ComboWidth,
-                           ProgGeometry.KeyHeight);
-    BitsCombo->setGeometry(keysLeft + keysWidth - ComboWidth, rowTop, ComboWidth,
-                           ProgGeometry.KeyHeight);
-    KeyPanel->move(keysLeft, rowTop + ProgGeometry.KeyHeight + 5);
+    // The panels are as tall as the fixed size allows: a 64-bit binary value is shown on two
+    // lines of 32 digits.
+    ValueDisplay->setGeometry(keysLeft, ValueTop, keysWidth, ValueHeight);
+    MemoryDisplay->setGeometry(keysLeft, RowTop, keysWidth - 2 * ComboWidth - 8, RowHeight);
+    BaseCombo->setGeometry(keysLeft + keysWidth - 2 * ComboWidth - 4, RowTop, ComboWidth,
+                           RowHeight);
+    BitsCombo->setGeometry(keysLeft + keysWidth - ComboWidth, RowTop, ComboWidth, RowHeight);
+    KeyPanel->move(keysLeft, KeysTop);
     setFixedSize(ClientWidth, ClientHeight);
 
     // The size list is deliberately not told of size changes the engine makes by itself
     // (decimal forces 64 bits): it keeps showing the size the user chose.
     const TQORProgCalcEngineObject* front = engineObject_;
     connect(front, &TQORProgCalcEngineObject::displayChange, this,
-            [this] { ValueDisplay->setText(engineObject_->GetDisplayText()); });
+            [this] { ShowFitted(ValueDisplay, engineObject_->GetDisplayText()); });
     connect(front, &TQORProgCalcEngineObject::memoryChange, this,
-            [this] { MemoryDisplay->setText(engineObject_->GetMemoryText()); });
+            [this] { ShowFitted(MemoryDisplay, engineObject_->GetMemoryText()); });
     connect(front, &TQORProgCalcEngineObject::baseDisplayChange, this,
             &TQORProgCalcForm::EnableDigits);
-    ValueDisplay->setText(ToQ(engine_.GetDisplayStr()));
+    ShowFitted(ValueDisplay, ToQ(engine_.GetDisplayStr()));
     InstallKeyPreview();
 }
 
@@ -256,8 +260,8 @@ void TQORProgCalcForm::RefreshDisplays()
 {
     BaseCombo->SetItemIndex(engine_.GetBaseDisplay());
     BitsCombo->SetItemIndex(engine_.GetBitSize());
-    MemoryDisplay->setText(ToQ(engine_.GetMemoryContents()));
-    ValueDisplay->setText(ToQ(engine_.GetDisplayStr()));
+    ShowFitted(MemoryDisplay, ToQ(engine_.GetMemoryContents()));
+    ShowFitted(ValueDisplay, ToQ(engine_.GetDisplayStr()));
     EnableDigits();
 }
 
@@ -266,6 +270,7 @@ void TQORProgCalcForm::RefreshDisplays()
 TQORProgCalculator::TQORProgCalculator(QObject* owner) : TQORCalcComponentT(owner)
 {
     SetPrefixFunctions(true);
+    SetDispFont(ToQ(QORCalcDispFont));
 }
 
 void TQORProgCalculator::SetMemory(std::int64_t value)

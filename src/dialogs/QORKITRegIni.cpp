@@ -14,6 +14,13 @@ const QString RadiansKey = QStringLiteral("Radians");
 const QString MemoryKey = QStringLiteral("Memory");
 const QString DispFontKey = QStringLiteral("DispFont");
 
+// Passes the store's errors on to the hosts listening to the calculator settings.
+void ReportErrors(TQORStoreCtrl& store)
+{
+    QObject::connect(&store, &TQORStoreCtrl::errorOccurred, QORCalcSettingsEvents(),
+                     &TQORCalcSettingsEvents::errorOccurred);
+}
+
 // Sets up `store` on the section the process-wide variables name, or returns false when
 // the chosen store is off or not fully named.
 bool OpenCalculatorStore(TQORStoreCtrl& store)
@@ -33,9 +40,16 @@ bool OpenCalculatorStore(TQORStoreCtrl& store)
 
 } // namespace
 
+TQORCalcSettingsEvents* QORCalcSettingsEvents()
+{
+    static TQORCalcSettingsEvents events;
+    return &events;
+}
+
 void LoadCalculatorSettings()
 {
     TQORStoreCtrl store;
+    ReportErrors(store);
     if (!OpenCalculatorStore(store))
         return;
     QORCalcRadians = store.ReadBoolean(RadiansKey, QORCalcRadians);
@@ -49,15 +63,21 @@ void LoadCalculatorSettings()
     store.CloseStorage();
 }
 
-void SaveCalculatorSettings()
+void SaveCalculatorSettings() { TrySaveCalculatorSettings(); }
+
+bool TrySaveCalculatorSettings(QString* error)
 {
     TQORStoreCtrl store;
-    if (!OpenCalculatorStore(store))
-        return;
-    store.WriteBoolean(RadiansKey, QORCalcRadians);
-    store.WriteFloat(MemoryKey, static_cast<double>(QORCalcMemory));
-    store.WriteString(DispFontKey, QString::fromStdString(QORCalcDispFont));
-    store.CloseStorage();
+    ReportErrors(store);
+    if (OpenCalculatorStore(store)) {
+        store.WriteBoolean(RadiansKey, QORCalcRadians);
+        store.WriteFloat(MemoryKey, static_cast<double>(QORCalcMemory));
+        store.WriteString(DispFontKey, QString::fromStdString(QORCalcDispFont));
+        store.CloseStorage();
+    }
+    if (error != nullptr)
+        *error = store.GetErrorString();
+    return store.GetStatus() == QSettings::NoError;
 }
 
 } // namespace qorkit

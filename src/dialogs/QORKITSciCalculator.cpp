@@ -107,7 +107,10 @@ std::vector<std::span<const TQORCharKey>> TQORSciCalcForm::CharKeys() const
 
 // ---- Component -------------------------------------------------------------------------------
 
-TQORSciCalculator::TQORSciCalculator(QObject* owner) : TQORCalcComponentT(owner) { }
+TQORSciCalculator::TQORSciCalculator(QObject* owner) : TQORCalcComponentT(owner)
+{
+    SetDispFont(QString::fromStdString(QORCalcDispFont));
+}
 
 void TQORSciCalculator::SetSciMax(Extended value)
 {

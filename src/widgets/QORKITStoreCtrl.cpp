@@ -1,16 +1,166 @@
 #include "QORKITStoreCtrl.h"
 
-#include <QDir>
-#include <QFileInfo>
+#include "QORKITIniFile.h"
+
 #include <QRegularExpression>
-#include <QTemporaryFile>
 
 #include <charconv>
 #include <cmath>
-#include <filesystem>
+#include <functional>
 #include <limits>
+#include <optional>
 
 namespace qorkit {
+
+// What the store reads from and writes to: an INI file or the native settings store.
+class detail::TQORStoreBackend {
+public:
+    virtual ~TQORStoreBackend() = default;
+    // The text of `key`, or nothing when it is missing or not text.
+    virtual std::optional<QString> Value(const QString& section, const QString& key) = 0;
+    virtual bool Contains(const QString& section, const QString& key) = 0;
+    // False when the store cannot hold the name.
+    virtual bool SetValue(const QString& section, const QString& key, const QString& value) = 0;
+    virtual void Remove(const QString& section, const QString& key) = 0;
+    virtual void RemoveSection(const QString& section) = 0;
+    // Writes the changes; false with `error` set when that failed.
+    virtual bool Flush(QString& error) = 0;
+};
+
+namespace {
+
+class IniBackend : public detail::TQORStoreBackend {
+public:
+    explicit IniBackend(QString file) : file_(std::move(file)) { }
+    bool Load(QString& error) { return document_.Load(file_, &error); }
+
+    std::optional<QString> Value(const QString& section, const QString& key) override
+    {
+        return document_.Value(section, key);
+    }
+    bool Contains(const QString& section, const QString& key) override
+    {
+        return document_.Contains(section, key);
+    }
+    bool SetValue(const QString& section, const QString& key, const QString& value) override
+    {
+        return Change([=](TQORIniFile& d) { return d.SetValue(section, key, value); });
+    }
+    void Remove(const QString& section, const QString& key) override
+    {
+        Change([=](TQORIniFile& d) {
+            d.RemoveKey(section, key);
+            return true;
+        });
+    }
+    void RemoveSection(const QString& section) override
+    {
+        Change([=](TQORIniFile& d) {
+            d.RemoveSection(section);
+            return true;
+        });
+    }
+    bool Flush(QString& error) override
+    {
+        if (changes_.empty())
+            return true;
+        // The changes go onto the file as it is now, so what others wrote since it was read
+        // stays.
+        TQORIniFile latest;
+        if (!latest.Load(file_, &error))
+            return false;
+        for (const auto& change : changes_)
+            change(latest);
+        changes_.clear();
+        return latest.Save(file_, &error);
+    }
+
+private:
+    using TChange = std::function<bool(TQORIniFile&)>;
+    bool Change(TChange change)
+    {
+        if (!change(document_))
+            return false;
+        changes_.push_back(std::move(change));
+        return true;
+    }
+
+    QString file_;
+    TQORIniFile document_;
+    std::vector<TChange> changes_;
+};
+
+class NativeBackend : public detail::TQORStoreBackend {
+public:
+    explicit NativeBackend(std::unique_ptr<QSettings> settings) : settings_(std::move(settings))
+    {
+        // A missing key must give the caller's default, not a value from a system-wide store.
+        settings_->setFallbacksEnabled(false);
+        settings_->setAtomicSyncRequired(true);
+    }
+
+    // Runs `body` in `section` (the top level when empty).
+    template<class F> auto InSection(const QString& section, F body) -> decltype(body())
+    {
+        if (!section.isEmpty())
+            settings_->beginGroup(section);
+        auto result = body();
+        if (!section.isEmpty())
+            settings_->endGroup();
+        return result;
+    }
+
+    std::optional<QString> Value(const QString& section, const QString& key) override
+    {
+        const QVariant v = InSection(section, [&] { return settings_->value(key); });
+        // Only text is a setting of ours; anything the settings layer decodes into another
+        // type (its "@Variant(...)" form, byte arrays) is unreadable.
+        if (v.typeId() == QMetaType::QString)
+            return v.toString();
+        if (v.typeId() == QMetaType::QStringList)
+            return v.toStringList().join(QLatin1Char(','));
+        return std::nullopt;
+    }
+    bool Contains(const QString& section, const QString& key) override
+    {
+        return InSection(section, [&] { return settings_->contains(key); });
+    }
+    bool SetValue(const QString& section, const QString& key, const QString& value) override
+    {
+        changed_ = true;
+        InSection(section, [&] {
+            settings_->setValue(key, value);
+            return true;
+        });
+        return true;
+    }
+    void Remove(const QString& section, const QString& key) override
+    {
+        changed_ = true;
+        InSection(section, [&] {
+            settings_->remove(key);
+            return true;
+        });
+    }
+    void RemoveSection(const QString& section) override { Remove(section, QString()); }
+    bool Flush(QString& error) override
+    {
+        if (!changed_)
+            return true;
+        changed_ = false;
+        settings_->sync();
+        if (settings_->status() == QSettings::NoError)
+            return true;
+        error = QStringLiteral("Cannot write the settings store %1").arg(settings_->fileName());
+        return false;
+    }
+
+private:
+    std::unique_ptr<QSettings> settings_;
+    bool changed_ = false;
+};
+
+} // namespace
 
 // Opens the store around one read or write when the caller has not opened it.
 class TQORStoreCtrl::Session {
@@ -25,9 +175,8 @@ public:
     }
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
-    QSettings* Settings() const { return store_.settings_.get(); }
-    // The settings to write to, or nullptr when the write must be dropped.
-    QSettings* Writable() const { return store_.BeginWriting() ? Settings() : nullptr; }
+    detail::TQORStoreBackend* Store() const { return store_.backend_.get(); }
+    const QString& Section() const { return store_.sections_.back(); }
 
 private:
     TQORStoreCtrl& store_;
@@ -39,9 +188,9 @@ TQORStoreCtrl::TQORStoreCtrl(QObject* owner) : QObject(owner) { }
 TQORStoreCtrl::~TQORStoreCtrl()
 {
     notifyList_.NotifyRemoval(this);
-    if (settings_) {
-        sections_.clear();
-        FinishWriting();
+    if (backend_) {
+        QString error;
+        backend_->Flush(error);
     }
 }
 
@@ -69,216 +218,98 @@ void TQORStoreCtrl::SetSection(const QString& value)
         Q_EMIT sectionChanged(value);
 }
 
-std::unique_ptr<QSettings> TQORStoreCtrl::CreateSettings() const
+void TQORStoreCtrl::Fail(QSettings::Status status, const QString& message)
 {
-    std::unique_ptr<QSettings> settings;
-    if (regIniType_ == ritRegistry) {
-        static const QRegularExpression separators(QStringLiteral("[\\\\/]+"));
-        QStringList parts = regPath_.split(separators, Qt::SkipEmptyParts);
-        if (parts.isEmpty())
-            return nullptr;
-#ifdef Q_OS_WIN
-        settings = std::make_unique<QSettings>(QStringLiteral("HKEY_CURRENT_USER\\")
-                                                   + parts.join(QLatin1Char('\\')),
-                                               QSettings::NativeFormat);
-#else
-        // Elsewhere the native store is a file per application: the last part of the path
-        // names the application, the parts before it the organisation (nested folders).
-        const QString application = parts.size() > 1 ? parts.takeLast() : QString();
-        settings = std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope,
-                                               parts.join(QLatin1Char('/')), application);
-#endif
-    } else if (regIniType_ == ritIniFile) {
-        if (iniFileName_.trimmed().isEmpty())
-            return nullptr;
-        settings = std::make_unique<QSettings>(iniFileName_, QSettings::IniFormat);
-    } else {
-        return nullptr;
-    }
-    // A missing key must give the caller's default, not a value from a system-wide file.
-    settings->setFallbacksEnabled(false);
-    // Never write the file in place: a new file is written and renamed over the old one.
-    settings->setAtomicSyncRequired(true);
-    return settings;
+    status_ = status;
+    errorString_ = message;
+    Q_EMIT errorOccurred(message);
 }
 
-void TQORStoreCtrl::EnterTopSection()
+std::unique_ptr<detail::TQORStoreBackend> TQORStoreCtrl::CreateBackend()
 {
-    while (!settings_->group().isEmpty())
-        settings_->endGroup();
-    if (!sections_.empty() && !sections_.back().isEmpty())
-        settings_->beginGroup(sections_.back());
+    if (regIniType_ == ritIniFile) {
+        if (iniFileName_.trimmed().isEmpty())
+            return nullptr;
+        auto ini = std::make_unique<IniBackend>(iniFileName_);
+        QString error;
+        if (!ini->Load(error)) {
+            Fail(QSettings::AccessError, error);
+            return nullptr;
+        }
+        return ini;
+    }
+    if (regIniType_ != ritRegistry)
+        return nullptr;
+    static const QRegularExpression separators(QStringLiteral("[\\\\/]+"));
+    QStringList parts = regPath_.split(separators, Qt::SkipEmptyParts);
+    if (parts.isEmpty())
+        return nullptr;
+    // Elsewhere than on Windows the key path becomes folders: ".." would climb out of the
+    // user's settings folder, so such a path is refused everywhere.
+    if (parts.contains(QStringLiteral(".."))) {
+        Fail(QSettings::AccessError,
+             QStringLiteral("The settings key path \"%1\" is refused: it has a \"..\" part.")
+                 .arg(regPath_));
+        return nullptr;
+    }
+#ifdef Q_OS_WIN
+    return std::make_unique<NativeBackend>(std::make_unique<QSettings>(
+        QStringLiteral("HKEY_CURRENT_USER\\") + parts.join(QLatin1Char('\\')),
+        QSettings::NativeFormat));
+#else
+    // Elsewhere the native store is a file per application: the last part of the path
+    // names the application, the parts before it the organisation (nested folders).
+    const QString application = parts.size() > 1 ? parts.takeLast() : QString();
+    return std::make_unique<NativeBackend>(std::make_unique<QSettings>(
+        QSettings::NativeFormat, QSettings::UserScope, parts.join(QLatin1Char('/')), application));
+#endif
 }
 
 bool TQORStoreCtrl::OpenStorage(const QString& section)
 {
-    if (!settings_) {
-        settings_ = CreateSettings();
-        if (!settings_)
-            return false;
+    if (!backend_) {
         status_ = QSettings::NoError;
+        errorString_.clear();
+        backend_ = CreateBackend();
+        if (!backend_)
+            return false;
     }
     sections_.push_back(section.isEmpty() ? section_ : section);
-    EnterTopSection();
     return true;
 }
 
 bool TQORStoreCtrl::CloseStorage()
 {
-    if (!settings_)
+    if (!backend_)
         return false;
     sections_.pop_back();
-    if (!sections_.empty()) {
-        EnterTopSection();
+    if (!sections_.empty())
         return true;
-    }
-    return FinishWriting();
+    QString error;
+    const bool written = backend_->Flush(error);
+    backend_.reset();
+    if (!written)
+        Fail(QSettings::AccessError, error);
+    return status_ == QSettings::NoError;
 }
 
-namespace {
-
-std::filesystem::path FsPath(const QString& file)
+bool TQORStoreCtrl::WriteText(const QString& key, const QString& value)
 {
-    return std::filesystem::path(file.toStdU16String());
-}
-
-// Whether the store keeps its settings in a file that we can replace ourselves (rather than in
-// the registry or the system's preferences service).
-bool IsFileStore(const QSettings& settings)
-{
-#if defined(Q_OS_WIN) || defined(Q_OS_DARWIN)
-    if (settings.format() == QSettings::NativeFormat)
+    Session session(*this);
+    if (!session.Store())
         return false;
-#endif
-    return !settings.fileName().isEmpty();
-}
-
-} // namespace
-
-bool TQORStoreCtrl::BeginWriting()
-{
-    if (!settings_)
-        return false;
-    if (writing_)
+    if (session.Store()->SetValue(session.Section(), key, value))
         return true;
-    if (!IsFileStore(*settings_)) {
-        writing_ = true;
-        return true;
-    }
-    const QString target = QFileInfo(settings_->fileName()).absoluteFilePath();
-    const QFileInfo info(target);
-    if (!QDir().mkpath(info.absolutePath())) {
-        status_ = QSettings::AccessError;
-        return false;
-    }
-    QTemporaryFile working(info.absolutePath() + QStringLiteral("/.") + info.fileName()
-                           + QStringLiteral(".XXXXXX"));
-    working.setAutoRemove(false);
-    if (!working.open()) {
-        status_ = QSettings::AccessError;
-        return false;
-    }
-    working.close();
-    std::error_code error;
-    if (info.exists())
-        std::filesystem::copy_file(FsPath(target), FsPath(working.fileName()),
-                                   std::filesystem::copy_options::overwrite_existing, error);
-    if (error) {
-        QFile::remove(working.fileName());
-        status_ = QSettings::AccessError;
-        return false;
-    }
-    // Nothing was written yet, so the session can move to the copy without losing anything.
-    settings_.reset();
-    settings_ = std::make_unique<QSettings>(working.fileName(), QSettings::IniFormat);
-    settings_->setFallbacksEnabled(false);
-    settings_->setAtomicSyncRequired(true);
-    EnterTopSection();
-    targetFile_ = target;
-    workingFile_ = working.fileName();
-    writing_ = true;
-    return true;
-}
-
-bool TQORStoreCtrl::VerifyWorkingCopy()
-{
-    // Read the copy back under a second name: the settings cache knows files by name, so
-    // this parses what actually reached the disk.
-    const QString check = workingFile_ + QStringLiteral("v");
-    std::error_code error;
-    std::filesystem::create_hard_link(FsPath(workingFile_), FsPath(check), error);
-    if (error) {
-        error.clear();
-        std::filesystem::copy_file(FsPath(workingFile_), FsPath(check), error);
-        if (error)
-            return false;
-    }
-    bool same = false;
-    {
-        QSettings reread(check, QSettings::IniFormat);
-        reread.setFallbacksEnabled(false);
-        while (!settings_->group().isEmpty())
-            settings_->endGroup();
-        const QStringList keys = settings_->allKeys();
-        same = reread.status() == QSettings::NoError && reread.allKeys().size() == keys.size();
-        for (const QString& key : keys) {
-            if (!same)
-                break;
-            same = reread.value(key).toString() == settings_->value(key).toString();
-        }
-    }
-    QFile::remove(check);
-    return same;
-}
-
-void TQORStoreCtrl::DiscardWorkingCopy()
-{
-    if (!workingFile_.isEmpty())
-        QFile::remove(workingFile_);
-    workingFile_.clear();
-    targetFile_.clear();
-}
-
-bool TQORStoreCtrl::FinishWriting()
-{
-    if (!settings_)
-        return false;
-    if (!writing_) {
-        // Only read from (or every write was dropped): nothing to write back.
-        settings_.reset();
-        return status_ == QSettings::NoError;
-    }
-    settings_->sync();
-    status_ = settings_->status();
-    bool ok = status_ == QSettings::NoError;
-    if (!workingFile_.isEmpty()) {
-        ok = ok && VerifyWorkingCopy();
-        settings_.reset();
-        std::error_code error;
-        if (ok)
-            std::filesystem::rename(FsPath(workingFile_), FsPath(targetFile_), error);
-        ok = ok && !error;
-        if (ok)
-            workingFile_.clear(); // it is the settings file now
-        DiscardWorkingCopy();
-        if (!ok)
-            status_ = QSettings::AccessError;
-    }
-    settings_.reset();
-    writing_ = false;
-    return ok;
+    Fail(QSettings::FormatError,
+         QStringLiteral("The key \"%1\" in section \"%2\" cannot be kept in a settings file.")
+             .arg(key, session.Section()));
+    return false;
 }
 
 bool TQORStoreCtrl::ReadBoolean(const QString& key, bool defaultValue)
 {
-    Session session(*this);
-    if (!session.Settings())
-        return defaultValue;
-    const QVariant v = session.Settings()->value(key);
-    if (!v.isValid())
-        return defaultValue;
     // INI files written by hand or by older programs may hold 0/1 or true/false.
-    const QString text = v.toString().trimmed().toLower();
+    const QString text = ReadString(key, QString()).trimmed().toLower();
     if (text == QLatin1String("true") || text == QLatin1String("1"))
         return true;
     if (text == QLatin1String("false") || text == QLatin1String("0"))
@@ -288,26 +319,19 @@ bool TQORStoreCtrl::ReadBoolean(const QString& key, bool defaultValue)
 
 void TQORStoreCtrl::WriteBoolean(const QString& key, bool value)
 {
-    Session session(*this);
-    if (QSettings* settings = session.Writable())
-        settings->setValue(key, value);
+    WriteText(key, value ? QStringLiteral("true") : QStringLiteral("false"));
 }
 
 std::int64_t TQORStoreCtrl::ReadInt64(const QString& key, std::int64_t defaultValue)
 {
-    Session session(*this);
-    if (!session.Settings())
-        return defaultValue;
     bool ok = false;
-    const qlonglong v = session.Settings()->value(key).toString().trimmed().toLongLong(&ok);
+    const qlonglong v = ReadString(key, QString()).trimmed().toLongLong(&ok);
     return ok ? v : defaultValue;
 }
 
 void TQORStoreCtrl::WriteInt64(const QString& key, std::int64_t value)
 {
-    Session session(*this);
-    if (QSettings* settings = session.Writable())
-        settings->setValue(key, QString::number(static_cast<qlonglong>(value)));
+    WriteText(key, QString::number(static_cast<qlonglong>(value)));
 }
 
 std::int32_t TQORStoreCtrl::ReadInteger(const QString& key, std::int32_t defaultValue)
@@ -323,12 +347,9 @@ void TQORStoreCtrl::WriteInteger(const QString& key, std::int32_t value) { Write
 
 double TQORStoreCtrl::ReadFloat(const QString& key, double defaultValue)
 {
-    Session session(*this);
-    if (!session.Settings())
-        return defaultValue;
     bool ok = false;
     // QString::toDouble reads the C locale's "." whatever the user's locale is.
-    const double v = session.Settings()->value(key).toString().trimmed().toDouble(&ok);
+    const double v = ReadString(key, QString()).trimmed().toDouble(&ok);
     return ok && std::isfinite(v) ? v : defaultValue;
 }
 
@@ -338,10 +359,7 @@ void TQORStoreCtrl::WriteFloat(const QString& key, double value)
         value = 0;
     else if (std::isinf(value))
         value = std::copysign(std::numeric_limits<double>::max(), value);
-    Session session(*this);
-    if (QSettings* settings = session.Writable())
-        settings->setValue(key,
-                           QString::number(value, 'g', std::numeric_limits<double>::max_digits10));
+    WriteText(key, QString::number(value, 'g', std::numeric_limits<double>::max_digits10));
 }
 
 Extended TQORStoreCtrl::ReadExtended(const QString& key, Extended defaultValue)
@@ -364,43 +382,37 @@ void TQORStoreCtrl::WriteExtended(const QString& key, Extended value)
     char buffer[64];
     const auto [end, ec] = std::to_chars(buffer, buffer + sizeof buffer, value);
     if (ec == std::errc())
-        WriteString(key, QString::fromLatin1(buffer, static_cast<int>(end - buffer)));
+        WriteText(key, QString::fromLatin1(buffer, static_cast<int>(end - buffer)));
 }
 
 QString TQORStoreCtrl::ReadString(const QString& key, const QString& defaultValue)
 {
     Session session(*this);
-    if (!session.Settings())
+    if (!session.Store())
         return defaultValue;
-    const QVariant v = session.Settings()->value(key);
-    return v.isValid() ? v.toString() : defaultValue;
+    return session.Store()->Value(session.Section(), key).value_or(defaultValue);
 }
 
-void TQORStoreCtrl::WriteString(const QString& key, const QString& value)
-{
-    Session session(*this);
-    if (QSettings* settings = session.Writable())
-        settings->setValue(key, value);
-}
+void TQORStoreCtrl::WriteString(const QString& key, const QString& value) { WriteText(key, value); }
 
 bool TQORStoreCtrl::ValueExists(const QString& key)
 {
     Session session(*this);
-    return session.Settings() && session.Settings()->contains(key);
+    return session.Store() && session.Store()->Contains(session.Section(), key);
 }
 
 void TQORStoreCtrl::EraseKey(const QString& key)
 {
     Session session(*this);
-    if (QSettings* settings = session.Writable())
-        settings->remove(key);
+    if (session.Store())
+        session.Store()->Remove(session.Section(), key);
 }
 
 void TQORStoreCtrl::EraseSection()
 {
     Session session(*this);
-    if (QSettings* settings = session.Writable())
-        settings->remove(QString());
+    if (session.Store())
+        session.Store()->RemoveSection(session.Section());
 }
 
 void TQORStoreCtrl::AddToNotifyList(QObject* component) { notifyList_.Add(component); }

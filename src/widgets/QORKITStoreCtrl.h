@@ -4,11 +4,15 @@
 // path, an INI file, or nothing at all, as RegIniType chooses. Keys live in a section:
 // OpenStorage(section) enters it (an empty name means the store's own Section), typed reads
 // return the default when the key is missing or unreadable, and CloseStorage writes the
-// changes back. Settings files are never written in place: the first write of a session
-// moves the session onto a working copy beside the file; the last close writes that copy,
-// reads it back through a second name to check that every key arrived, and only then
-// renames it over the old file. A crash or a full disk therefore leaves the previous file
-// readable, and CloseStorage reports the failure.
+// changes back.
+//
+// INI files are kept by TQORIniFile: section and key names are written as given, and every
+// line the store does not own (comments, other sections, lines it cannot read) stays. The file
+// is read again when the changes are written, so what other programs wrote meanwhile stays too,
+// and it is replaced in one step: a crash or a full disk leaves the previous file readable.
+// A store that cannot be used (a key path with ".." parts, an unreadable file) or a write that
+// fails is reported: CloseStorage returns false, GetErrorString says why, and errorOccurred
+// is emitted.
 //
 // Components that refer to a store register with AddToNotifyList; when the store is
 // destroyed each registered component that implements IQORNotifyClient hears of it through
@@ -18,6 +22,7 @@
 #include "QORKITComponent.h"
 #include "QORKITQtEnums.h"
 #include "QORKITTypes.h"
+#include "qorkit_widgets_export.h"
 
 #include <QObject>
 #include <QSettings>
@@ -29,10 +34,14 @@
 
 namespace qorkit {
 
+namespace detail {
+class TQORStoreBackend; // the INI file or native store behind an open TQORStoreCtrl
+}
+
 // Section used by components that were given no section name of their own.
 inline constexpr char QORDefaultStoreSection[] = "Settings";
 
-class TQORStoreCtrl : public QObject {
+class QORKIT_WIDGETS_EXPORT TQORStoreCtrl : public QObject {
     Q_OBJECT
     Q_PROPERTY(qorkit::TQORRegIniType RegIniType READ GetRegIniType WRITE SetRegIniType NOTIFY
                    regIniTypeChanged)
@@ -47,7 +56,8 @@ public:
 
     TQORRegIniType GetRegIniType() const { return regIniType_; }
     void SetRegIniType(TQORRegIniType value);
-    // Key path of the native store, such as "Software/Acme/Planner" ("\" also separates).
+    // Key path of the native store, such as "Software/Acme/Planner" ("\" also separates). A
+    // path with ".." parts is refused when the store is opened.
     QString GetRegPath() const { return regPath_; }
     void SetRegPath(const QString& value);
     QString GetIniFileName() const { return iniFileName_; }
@@ -57,15 +67,19 @@ public:
 
     // Opens the store in `section` (the store's Section when empty). Calls nest: each
     // OpenStorage needs its CloseStorage, and the innermost section is the one in use.
-    // Returns false when the kind is ritNone or the path or file name is empty; reads then
-    // give their defaults and writes are dropped.
+    // Returns false when the kind is ritNone or the path or file name is empty, or when the
+    // store cannot be used (reported as an error); reads then give their defaults and writes
+    // are dropped.
     bool OpenStorage(const QString& section = {});
     // Leaves the section; the last close writes the store. Returns false when writing failed
-    // (the old contents stay in place).
+    // or a write was refused (the old contents stay in place).
     bool CloseStorage();
-    bool IsOpen() const { return settings_ != nullptr; }
-    // Status of the last write: QSettings::NoError, AccessError or FormatError.
+    bool IsOpen() const { return backend_ != nullptr; }
+    // Status of the last session: QSettings::NoError, AccessError (the store could not be
+    // opened or written) or FormatError (a section or key name an INI file cannot hold).
     QSettings::Status GetStatus() const { return status_; }
+    // What went wrong in the last session, for people; empty without an error.
+    QString GetErrorString() const { return errorString_; }
 
     // Typed reads and writes in the open section. Without an open store they open and close
     // one around the single call.
@@ -99,27 +113,24 @@ Q_SIGNALS:
     void iniFileNameChanged(const QString& iniFileName);
     void sectionChanged(const QString& section);
 
+    // The store could not be opened or written, or refused a name; `message` says why.
+    void errorOccurred(const QString& message);
+
 private:
-    std::unique_ptr<QSettings> CreateSettings() const;
-    void EnterTopSection();
-    // Moves the open session onto a working copy of its file (once); false when writing is
-    // impossible, and the write is then dropped.
-    bool BeginWriting();
-    bool VerifyWorkingCopy();
-    bool FinishWriting();
-    void DiscardWorkingCopy();
     class Session;
+    std::unique_ptr<detail::TQORStoreBackend> CreateBackend();
+    // Records a failure of this session and reports it.
+    void Fail(QSettings::Status status, const QString& message);
+    bool WriteText(const QString& key, const QString& value);
 
     TQORRegIniType regIniType_ = ritNone;
     QString regPath_;
     QString iniFileName_;
     QString section_ = QString::fromLatin1(QORDefaultStoreSection);
-    std::unique_ptr<QSettings> settings_;
+    std::unique_ptr<detail::TQORStoreBackend> backend_;
     std::vector<QString> sections_;
-    bool writing_ = false;
-    QString targetFile_; // the settings file a working copy replaces
-    QString workingFile_;
     QSettings::Status status_ = QSettings::NoError;
+    QString errorString_;
     TQORNotifyList notifyList_;
 };
 

@@ -532,6 +532,31 @@ TEST_F(CalculatorTest, StoreRoundTripUsesTheNamedKeys)
     EXPECT_EQ(noMemory.GetMemory(), 0);
 }
 
+TEST_F(CalculatorTest, ScientificAndProgrammersComponentsStartWithThePackageFont)
+{
+    EXPECT_EQ(QORCalcDispFont, QORDefaultCalcDispFont);
+    QORCalcDispFont = "DejaVu Sans Mono";
+    TQORSciCalculator sci;
+    TQORProgCalculator prog;
+    EXPECT_EQ(sci.GetDispFont(), QStringLiteral("DejaVu Sans Mono"));
+    EXPECT_EQ(prog.GetDispFont(), QStringLiteral("DejaVu Sans Mono"));
+
+    // And that is the font name a store keeps for them.
+    TQORStoreCtrl store;
+    store.SetRegIniType(ritIniFile);
+    store.SetIniFileName(dir_.filePath(QStringLiteral("fonts.ini")));
+    for (TQORCalcComponent* component : std::initializer_list<TQORCalcComponent*> {&sci, &prog}) {
+        const QString section = QString::fromLatin1(component->metaObject()->className());
+        component->SetStoreCtrl(&store);
+        component->SetStoreSection(section);
+        component->SaveToStore();
+        ASSERT_TRUE(store.OpenStorage(section));
+        EXPECT_EQ(store.ReadString(QStringLiteral("DispFont"), QString()),
+                  QStringLiteral("DejaVu Sans Mono"));
+        store.CloseStorage();
+    }
+}
+
 class GlyphWatcher : public QObject, public IQORGlyphClient {
 public:
     void GlyphChanged(QObject*) override { ++count; }

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QSettings>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -42,6 +43,17 @@ protected:
         QORCalcMemory = memory;
         QORCalcDispFont = font;
     }
+    static void WriteFile(const QString& path, const QByteArray& contents)
+    {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(contents);
+    }
+    static std::string ReadFile(const std::string& path)
+    {
+        QFile file(QString::fromStdString(path));
+        return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
+    }
     QTemporaryDir dir_;
 };
 
@@ -57,8 +69,97 @@ TEST_F(RegIniTest, IniRoundTripKeepsDoublePrecisionOfTheMemory)
     EXPECT_NE(QORCalcMemory, 1.0L / 3.0L);
     EXPECT_EQ(QORCalcDispFont, "Arial,12,-1,5,75,0,0,0,0,0");
 
-    QSettings file(QString::fromStdString(QORIniFile), QSettings::IniFormat);
-    EXPECT_EQ(file.value(QStringLiteral("Calculator/Radians")).toString(), QStringLiteral("false"));
+    EXPECT_EQ(ReadFile(QORIniFile),
+              "[Calculator]\nRadians=false\nMemory=0.33333333333333331\n"
+              "DispFont=Arial,12,-1,5,75,0,0,0,0,0\n");
+}
+
+TEST_F(RegIniTest, HandWrittenIniFileIsReadAndKept)
+{
+    UseIni();
+    QORIniSection = "Calc Settings";
+    const QByteArray other = QByteArray("# kept by the host\n"
+                                        "[Host Window]\n"
+                                        "Left = 10\n"
+                                        "not a setting\n")
+        + QByteArray(1, '\0') + "\xfe\xff\n";
+    WriteFile(QString::fromStdString(QORIniFile),
+              other + "[Calc Settings]\nRadians=false\n; a note\nDispFont=Courier,10\nMemo");
+    SetVariables(true, 3, "Mine");
+    LoadCalculatorSettings();
+    EXPECT_FALSE(QORCalcRadians);
+    EXPECT_EQ(QORCalcMemory, 3); // "Memo" is no key
+    EXPECT_EQ(QORCalcDispFont, "Courier,10");
+
+    SetVariables(true, -12.5L, "Serif");
+    QString error;
+    EXPECT_TRUE(TrySaveCalculatorSettings(&error)) << error.toStdString();
+    EXPECT_TRUE(error.isEmpty());
+    EXPECT_EQ(
+        ReadFile(QORIniFile),
+        (other + "[Calc Settings]\nRadians=true\n; a note\nDispFont=Serif\nMemory=-12.5\nMemo\n")
+            .toStdString());
+    SetVariables(false, 0, "");
+    LoadCalculatorSettings();
+    EXPECT_TRUE(QORCalcRadians);
+    EXPECT_EQ(QORCalcMemory, -12.5L);
+    EXPECT_EQ(QORCalcDispFont, "Serif");
+}
+
+class RegIniJunkMemory : public RegIniTest,
+                         public ::testing::WithParamInterface<TQORRegIniType> { };
+
+TEST_P(RegIniJunkMemory, SerializedVariantKeepsThePresentMemory)
+{
+    const QByteArray section = "[Calculator]\nMemory=@Variant(\\0\\0\\0\\x87?\\x80\\0\\0)\n";
+    if (GetParam() == ritIniFile) {
+        UseIni();
+        WriteFile(QString::fromStdString(QORIniFile), section);
+    } else {
+        UseRegistry();
+        ASSERT_TRUE(QDir(dir_.path()).mkpath(QStringLiteral("Software/QorkitTests")));
+        WriteFile(dir_.filePath(QStringLiteral("Software/QorkitTests/Calc.conf")), section);
+    }
+    SetVariables(true, 42.5L, "");
+    LoadCalculatorSettings();
+    EXPECT_EQ(QORCalcMemory, 42.5L);
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, RegIniJunkMemory, ::testing::Values(ritRegistry, ritIniFile),
+                         [](const auto& row) {
+                             return std::string(row.param == ritRegistry ? "NativeStore"
+                                                                         : "IniFile");
+                         });
+
+TEST_F(RegIniTest, FailuresReachTheHost)
+{
+    QSignalSpy errors(QORCalcSettingsEvents(), &TQORCalcSettingsEvents::errorOccurred);
+    // A key path climbing out of the settings folder is refused.
+    UseRegistry();
+    QORRegPath = "Software/../../Outside";
+    QString error;
+    EXPECT_FALSE(TrySaveCalculatorSettings(&error));
+    EXPECT_TRUE(error.contains(QStringLiteral("\"..\""))) << error.toStdString();
+    EXPECT_EQ(errors.count(), 1);
+    SetVariables(true, 5, "Kept");
+    LoadCalculatorSettings();
+    EXPECT_EQ(QORCalcMemory, 5);
+    EXPECT_EQ(errors.count(), 2);
+    EXPECT_TRUE(QDir(dir_.path()).isEmpty());
+
+    // An INI file that cannot be written: its folder is a file.
+    UseIni();
+    WriteFile(dir_.filePath(QStringLiteral("file")), "x");
+    QORIniFile = dir_.filePath(QStringLiteral("file/calc.ini")).toStdString();
+    EXPECT_FALSE(TrySaveCalculatorSettings(&error));
+    EXPECT_TRUE(error.contains(QStringLiteral("calc.ini"))) << error.toStdString();
+    SaveCalculatorSettings(); // the documented form reports through the signal
+    EXPECT_EQ(errors.count(), 4);
+
+    // Persistence turned off is no failure.
+    QORRegIniType = ritNone;
+    EXPECT_TRUE(TrySaveCalculatorSettings(&error));
+    EXPECT_EQ(errors.count(), 4);
 }
 
 TEST_F(RegIniTest, NativeStoreRoundTrip)

@@ -12,6 +12,7 @@
 #include "QORKITFloatCalcForm.h"
 #include "QORKITFloatEdit.h"
 #include "QORKITProgCalculator.h"
+#include "QORKITRegIni.h"
 #include "QORKITSciCalculator.h"
 #include "QORKITStoreCtrl.h"
 
@@ -53,6 +54,7 @@ const QMetaObject* const LibraryClasses[] = {&TQOREditColorSet::staticMetaObject
                                              &TQORProgCalculator::staticMetaObject,
                                              &TQORCalcEngineObject::staticMetaObject,
                                              &TQORProgCalcEngineObject::staticMetaObject,
+                                             &TQORCalcSettingsEvents::staticMetaObject,
                                              &TQORBaseConvertor::staticMetaObject,
 #define QORKIT_SURVEY_CONVERTOR(convertor, type, key) &convertor::staticMetaObject,
                                              QORKIT_CONVERTOR_LIST(QORKIT_SURVEY_CONVERTOR)

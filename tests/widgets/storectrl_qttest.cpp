@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QPointer>
 #include <QSettings>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -35,6 +36,20 @@ protected:
         store.SetRegIniType(kind);
         store.SetIniFileName(IniPath());
         store.SetRegPath(QStringLiteral("Software\\QorkitTests/Store"));
+    }
+
+    void WriteFile(const QString& path, const QByteArray& contents) const
+    {
+        QDir().mkpath(QFileInfo(path).absolutePath());
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(contents);
+    }
+    // As a std::string, so that a difference prints readably.
+    std::string ReadFile(const QString& path) const
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
     }
 
     QTemporaryDir dir_;
@@ -171,19 +186,131 @@ TEST_F(StoreCtrlTest, AFailedWriteLeavesTheOldFileReadable)
     rlimit tight = saved;
     tight.rlim_cur = 1024; // room for the lock file, not for the new contents
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &tight), 0);
+    QSignalSpy errors(&store, &TQORStoreCtrl::errorOccurred);
     store.OpenStorage();
     store.WriteString(QStringLiteral("Key"), QString(4096, QLatin1Char('x')));
     const bool written = store.CloseStorage();
+    EXPECT_EQ(errors.count(), 1);
     setrlimit(RLIMIT_FSIZE, &saved);
     std::signal(SIGXFSZ, oldHandler);
 
     EXPECT_FALSE(written);
     EXPECT_NE(store.GetStatus(), QSettings::NoError);
+    EXPECT_FALSE(store.GetErrorString().isEmpty());
     EXPECT_EQ(QFileInfo(IniPath()).size(), oldSize);
     TQORStoreCtrl reader;
     SetUpStore(reader, ritIniFile);
     EXPECT_EQ(reader.ReadString(QStringLiteral("Key"), {}), QStringLiteral("old"));
     EXPECT_EQ(QDir(dir_.path()).entryList(QDir::Files).size(), 1);
+}
+
+TEST_F(StoreCtrlTest, IniNamesAreWrittenAsGivenAndOtherLinesStay)
+{
+    // Everything a person or another program may have put in the file.
+    const QByteArray handWritten = QByteArray("# settings of the host\n"
+                                              "[Std Calc]\n"
+                                              "Decimal Places = 3\n"
+                                              "a line without equals\n"
+                                              "\n"
+                                              "[Host]\n"
+                                              "Window=1,2\n")
+        + QByteArray("\x01\xff junk") + "\n[Cut";
+    WriteFile(IniPath(), handWritten);
+    TQORStoreCtrl store;
+    SetUpStore(store, ritIniFile);
+    ASSERT_TRUE(store.OpenStorage(QStringLiteral("Std Calc")));
+    EXPECT_EQ(store.ReadInteger(QStringLiteral("Decimal Places"), 0), 3);
+    store.WriteInteger(QStringLiteral("Decimal Places"), 2);
+    store.WriteBoolean(QStringLiteral("Stay On Top"), true);
+    ASSERT_TRUE(store.OpenStorage(QStringLiteral("Calc Settings")));
+    store.WriteExtended(QStringLiteral("Memory"), -0.5L);
+    EXPECT_TRUE(store.CloseStorage());
+    EXPECT_TRUE(store.CloseStorage());
+    EXPECT_EQ(store.GetStatus(), QSettings::NoError);
+
+    EXPECT_EQ(ReadFile(IniPath()),
+              (QByteArray("# settings of the host\n"
+                          "[Std Calc]\n"
+                          "Decimal Places=2\n"
+                          "Stay On Top=true\n" // after the section's last key
+                          "a line without equals\n"
+                          "\n"
+                          "[Host]\n"
+                          "Window=1,2\n")
+               + QByteArray("\x01\xff junk") + "\n[Cut\n\n[Calc Settings]\nMemory=-0.5\n")
+                  .toStdString());
+}
+
+TEST_F(StoreCtrlTest, ChangesMadeMeanwhileByOthersStay)
+{
+    TQORStoreCtrl store;
+    SetUpStore(store, ritIniFile);
+    ASSERT_TRUE(store.OpenStorage());
+    store.WriteString(QStringLiteral("Mine"), QStringLiteral("1"));
+    WriteFile(IniPath(), "[Theirs]\nKey=2\n");
+    EXPECT_TRUE(store.CloseStorage());
+    EXPECT_EQ(ReadFile(IniPath()), "[Theirs]\nKey=2\n\n[Settings]\nMine=1\n");
+}
+
+TEST_F(StoreCtrlTest, NamesAnIniFileCannotHoldAreReported)
+{
+    TQORStoreCtrl store;
+    SetUpStore(store, ritIniFile);
+    QSignalSpy errors(&store, &TQORStoreCtrl::errorOccurred);
+    ASSERT_TRUE(store.OpenStorage(QStringLiteral("Calc")));
+    store.WriteString(QStringLiteral("A=B"), QStringLiteral("x"));
+    store.WriteString(QStringLiteral("Good"), QStringLiteral("y"));
+    EXPECT_FALSE(store.CloseStorage());
+    EXPECT_EQ(store.GetStatus(), QSettings::FormatError);
+    EXPECT_TRUE(store.GetErrorString().contains(QStringLiteral("A=B")));
+    EXPECT_EQ(errors.count(), 1);
+    EXPECT_EQ(ReadFile(IniPath()), "[Calc]\nGood=y\n");
+}
+
+TEST_F(StoreCtrlTest, KeyPathsThatClimbOutAreRefused)
+{
+    for (const char* path : {"..", "Software/../../Elsewhere", "..\\Up\\App", "A/../B"}) {
+        TQORStoreCtrl store;
+        store.SetRegIniType(ritRegistry);
+        store.SetRegPath(QString::fromLatin1(path));
+        QSignalSpy errors(&store, &TQORStoreCtrl::errorOccurred);
+        EXPECT_FALSE(store.OpenStorage()) << path;
+        store.WriteBoolean(QStringLiteral("Flag"), true);
+        EXPECT_EQ(store.GetStatus(), QSettings::AccessError) << path;
+        EXPECT_TRUE(store.GetErrorString().contains(QStringLiteral("\"..\""))) << path;
+        EXPECT_GE(errors.count(), 1) << path;
+    }
+    // Nothing was written anywhere, inside the settings folder or above it.
+    EXPECT_TRUE(QDir(dir_.path()).isEmpty());
+    EXPECT_FALSE(QFile::exists(dir_.filePath(QStringLiteral("../Elsewhere.conf"))));
+    EXPECT_FALSE(QFile::exists(dir_.filePath(QStringLiteral("../Up/App.conf"))));
+    // Names that only look alike are fine.
+    TQORStoreCtrl dots;
+    dots.SetRegIniType(ritRegistry);
+    dots.SetRegPath(QStringLiteral("Software/...Dots/..App"));
+    EXPECT_TRUE(dots.OpenStorage());
+    dots.CloseStorage();
+}
+
+TEST_P(StoreKindTest, SerializedVariantsAreJunk)
+{
+    // The settings layer's own serialized form must not turn into a number.
+    const QByteArray junk = "Memory=@Variant(\\0\\0\\0\\x87?\\x80\\0\\0)\n"
+                            "Big=@Variant(\\0\\0\\0\\x6@\\x14\\0\\0\\0\\0\\0\\0)\n"
+                            "Flag=@Variant(\\0\\0\\0\\x1\\x1)\n";
+    const QString file = GetParam() == ritIniFile
+        ? IniPath()
+        : dir_.filePath(QStringLiteral("Software/QorkitTests/Store.conf"));
+    WriteFile(file, "[Calc]\n" + junk);
+    TQORStoreCtrl store;
+    SetUpStore(store, GetParam());
+    ASSERT_TRUE(store.OpenStorage(QStringLiteral("Calc")));
+    EXPECT_EQ(store.ReadExtended(QStringLiteral("Memory"), 7.25L), 7.25L);
+    EXPECT_EQ(store.ReadFloat(QStringLiteral("Memory"), 7.5), 7.5);
+    EXPECT_EQ(store.ReadInt64(QStringLiteral("Big"), 9), 9);
+    EXPECT_TRUE(store.ReadBoolean(QStringLiteral("Flag"), true));
+    EXPECT_FALSE(store.ReadBoolean(QStringLiteral("Flag"), false));
+    store.CloseStorage();
 }
 
 // A component that refers to a store the way the convertors and calculators do.
