@@ -118,6 +118,8 @@ EXACT = {
     "const": "konst", "Power": "Potenz",
     "'%s' is outside the allowed range": "'%s' liegt außerhalb des erlaubten Bereichs",
     "The value is not a finite number": "Der Wert ist keine endliche Zahl",
+    # dialogs: the paper tape
+    "Paper Tape": "Papierstreifen", "Copy Tape": "Papierstreifen kopieren",
     # quantities
     "Temperature": "Temperatur", "Distance (Length)": "Entfernung (Länge)", "Mass": "Masse",
     "Area": "Fläche", "Volume": "Volumen", "Pressure": "Druck", "Velocity": "Geschwindigkeit",

@@ -6471,4 +6471,17 @@
             <translation>Der Wert ist keine endliche Zahl</translation>
         </message>
     </context>
+    <context>
+        <name>QORKIT_RS_Dialogs</name>
+        <message>
+            <source>Paper Tape</source>
+            <extracomment>rsTapeHint</extracomment>
+            <translation>Papierstreifen</translation>
+        </message>
+        <message>
+            <source>Copy Tape</source>
+            <extracomment>rsTapeCopy</extracomment>
+            <translation>Papierstreifen kopieren</translation>
+        </message>
+    </context>
 </TS>

@@ -6471,4 +6471,17 @@
             <translation type="unfinished"/>
         </message>
     </context>
+    <context>
+        <name>QORKIT_RS_Dialogs</name>
+        <message>
+            <source>Paper Tape</source>
+            <extracomment>rsTapeHint</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Copy Tape</source>
+            <extracomment>rsTapeCopy</extracomment>
+            <translation type="unfinished"/>
+        </message>
+    </context>
 </TS>

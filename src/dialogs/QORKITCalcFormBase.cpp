@@ -1,10 +1,14 @@
 #include "QORKITCalcFormBase.h"
 
 #include "QORKITSettings.h"
+#include "QORKITTapeModel.h"
+#include "QORKIT_RS_Dialogs.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QKeyEvent>
+#include <QListView>
 #include <QMimeData>
 #include <QScreen>
 #include <QVariant>
@@ -146,6 +150,11 @@ QToolButton* TQORCalcFormBase::Key(const char* name) const
 void TQORCalcFormBase::UpdateLanguage()
 {
     setWindowTitle(ToQ(rsCalculator()));
+    if (TapeView != nullptr) {
+        TapeView->setToolTip(ToQ(rsTapeHint()));
+        for (auto* action : TapeView->actions())
+            action->setText(ToQ(rsTapeCopy()));
+    }
     for (const auto& key : keyTexts_) {
         if (key.Look.Caption != nullptr)
             key.Button->setText(ToQ(key.Look.Caption()));
@@ -181,7 +190,52 @@ void TQORCalcFormBase::LayoutPanels(int rows, int extraHeight)
     ValueDisplay->setGeometry(5, 5, clientWidth - 10, PanelHeight);
     KeyPanel->move(5, d);
     MemoryDisplay->setGeometry(5, d + rows * h + 5, clientWidth - 10, PanelHeight);
-    setFixedSize(clientWidth, 2 * d + rows * h + 5 + extraHeight);
+    SetFormSize(clientWidth, 2 * d + rows * h + 5 + extraHeight);
+}
+
+void TQORCalcFormBase::SetFormSize(int width, int height)
+{
+    formWidth_ = width;
+    formHeight_ = height;
+    const bool tape = showTape_ && TapeView != nullptr;
+    if (tape)
+        TapeView->setGeometry(width, 5, TapeWidth, height - 10);
+    setFixedSize(width + (tape ? TapeWidth + 5 : 0), height);
+}
+
+void TQORCalcFormBase::SetTapeModel(TQORTapeModel* model)
+{
+    tapeModel_ = model;
+    TapeView = new QListView(this);
+    TapeView->setObjectName(QStringLiteral("TapeView"));
+    TapeView->setModel(model);
+    TapeView->setUniformItemSizes(true);
+    TapeView->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    TapeView->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    TapeView->setFocusPolicy(Qt::StrongFocus);
+    TapeView->setToolTip(ToQ(rsTapeHint()));
+    TapeView->hide();
+    auto* copy = new QAction(ToQ(rsTapeCopy()), TapeView);
+    copy->setObjectName(QStringLiteral("TapeCopyAction"));
+    connect(copy, &QAction::triggered, model, [model] { model->CopyToClipboard(); });
+    TapeView->addAction(copy);
+    TapeView->setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(model, &QAbstractItemModel::rowsInserted, TapeView,
+            [view = TapeView] { view->scrollToBottom(); });
+    // Keys typed while the tape has the focus still reach the calculator.
+    TapeView->installEventFilter(this);
+}
+
+void TQORCalcFormBase::SetShowTape(bool value)
+{
+    if (TapeView == nullptr || value == showTape_)
+        return;
+    showTape_ = value;
+    TapeView->setVisible(value);
+    if (formWidth_ > 0)
+        SetFormSize(formWidth_, formHeight_);
+    if (value)
+        TapeView->scrollToBottom();
 }
 
 void TQORCalcFormBase::InstallKeyPreview()
@@ -561,6 +615,14 @@ void TQORCalcComponent::TransferStore(bool save)
     store->CloseStorage();
 }
 
+void TQORCalcComponent::SetShowTape(bool value)
+{
+    if (value == showTape_)
+        return;
+    showTape_ = value;
+    Q_EMIT showTapeChanged(value);
+}
+
 bool TQORCalcComponent::RunDialog()
 {
     std::unique_ptr<TQORCalcFormBase> form = CreateForm();
@@ -572,6 +634,7 @@ bool TQORCalcComponent::RunDialog()
         form->Place(position_);
     }
     form->SetStayOnTop(stayOnTop_);
+    form->SetShowTape(showTape_);
     form->setWindowTitle(title_);
     SetUpForm(*form);
     form->SetDispFontName(dispFont_);

@@ -35,9 +35,12 @@
 #include <string>
 #include <vector>
 
+class QListView;
 class QSpinBox;
 
 namespace qorkit {
+
+class TQORTapeModel;
 
 // Where a dialog opens when it is not placed explicitly.
 enum TQORFormPosition : std::uint8_t {
@@ -163,6 +166,16 @@ public:
     void Place(TQORFormPosition position);
     void MoveTo(int left, int top);
 
+    // The paper tape beside the keys. Off by default, and then the form keeps its size; on, the
+    // form grows to the right by the tape's width (TapeWidth) and shows the engine's tape,
+    // scrolled to the newest line. The view's context menu copies the tape (text and CSV).
+    static constexpr int TapeWidth = 170;
+    QListView* TapeView = nullptr;
+    bool GetShowTape() const { return showTape_; }
+    void SetShowTape(bool value);
+    // The engine's tape as a model; null on a form without one.
+    TQORTapeModel* GetTapeModel() const { return tapeModel_; }
+
     // Help context of the form (0: none), from the process-wide help-context settings.
     int GetHelpContext() const { return helpContext_; }
     void SetHelpContext(int value) { helpContext_ = value; }
@@ -206,6 +219,11 @@ protected:
     // The float calculators' frame: value panel at the top, the key grid, the memory panel
     // below, both panels as wide as the form less the margins; `extraHeight` is added.
     void LayoutPanels(int rows, int extraHeight = 0);
+    // The form's size without the tape (the tape adds its width when shown).
+    void SetFormSize(int width, int height);
+    // Gives the form its tape (made after the engine's own handlers are set); the view stays
+    // hidden until SetShowTape(true).
+    void SetTapeModel(TQORTapeModel* model);
     // Sets up the keyboard preview on the form and every child it has by now.
     void InstallKeyPreview();
 
@@ -239,6 +257,10 @@ private:
         TQORKeyLook Look;
     };
     std::vector<KeyText> keyTexts_;
+    TQORTapeModel* tapeModel_ = nullptr;
+    int formWidth_ = 0;
+    int formHeight_ = 0;
+    bool showTape_ = false;
     bool cancelled_ = false;
     bool flat_ = false;
     bool stayOnTop_ = false;
@@ -364,6 +386,7 @@ class TQORCalcComponent : public QObject, public IQORNotifyClient {
     Q_PROPERTY(QString ExitHint READ GetExitHint WRITE SetExitHint)
     Q_PROPERTY(int Position READ GetPositionValue WRITE SetPositionValue)
     Q_PROPERTY(bool StayOnTop READ GetStayOnTop WRITE SetStayOnTop)
+    Q_PROPERTY(bool ShowTape READ GetShowTape WRITE SetShowTape NOTIFY showTapeChanged)
     Q_PROPERTY(QString Version READ GetVersion WRITE SetVersion STORED false)
     Q_PROPERTY(int RegIni READ GetRegIniValue WRITE SetRegIniValue STORED false)
     Q_PROPERTY(bool FlatSpin READ GetFlatSpin WRITE SetFlatSpin STORED false)
@@ -412,6 +435,9 @@ public:
     void SetPosition(TQORFormPosition value);
     bool GetStayOnTop() const { return stayOnTop_; }
     void SetStayOnTop(bool value) { stayOnTop_ = value; }
+    // Whether the dialog opens with its paper tape beside the keys (off: the usual size).
+    bool GetShowTape() const { return showTape_; }
+    void SetShowTape(bool value);
     // The fixed version text; writes are ignored.
     QString GetVersion() const { return QString::fromLatin1(QORCalcVersion); }
     void SetVersion(const QString&) { }
@@ -439,6 +465,7 @@ public:
 
 Q_SIGNALS:
     void GlyphChanged();
+    void showTapeChanged(bool showTape);
 
 protected:
     explicit TQORCalcComponent(QObject* owner);
@@ -487,6 +514,7 @@ private:
     QColor colorBackground_;
     QString exitHint_;
     TQORFormPosition position_ = poScreenCenter;
+    bool showTape_ = false;
     bool stayOnTop_ = false;
     bool flatSpin_ = false;
     std::vector<QPointer<QObject>> glyphClients_;

@@ -1,6 +1,7 @@
 #include "QORKITFloatCalcForm.h"
 
 #include "QORKITSettings.h"
+#include "QORKITTapeModel.h"
 
 #include <QLineEdit>
 #include <QPalette>
@@ -140,6 +141,7 @@ TQORFloatCalcForm::TQORFloatCalcForm(QWidget* parent, TQORFormGeometry geometry)
     });
     engine_.SetOnSetToggles([this](TQORCalcEngine*) { ShowToggles(); });
     engine_.SetOnClearToggles([this](TQORCalcEngine*) { ShowToggles(); });
+    SetTapeModel(new TQORTapeModel(engine_, this));
 }
 
 std::span<const TQORCharKey> TQORFloatCalcForm::FloatChars() { return FloatCharKeys; }

@@ -2,6 +2,7 @@
 
 #include "QORKITRegIni.h"
 #include "QORKITSettings.h"
+#include "QORKITTapeModel.h"
 
 #include <array>
 
@@ -193,7 +194,7 @@ TQORProgCalcForm::TQORProgCalcForm(QWidget* parent)
     BitsCombo->setGeometry(keysLeft + keysWidth - ComboWidth, rowTop, ComboWidth,
                            ProgGeometry.KeyHeight);
     KeyPanel->move(keysLeft, rowTop + ProgGeometry.KeyHeight + 5);
-    setFixedSize(ClientWidth, ClientHeight);
+    SetFormSize(ClientWidth, ClientHeight);
 
     // The size list is deliberately not told of size changes the engine makes by itself
     // (decimal forces 64 bits): it keeps showing the size the user chose.
@@ -203,6 +204,7 @@ TQORProgCalcForm::TQORProgCalcForm(QWidget* parent)
         [this](IQORProgCalcEngine*) { MemoryDisplay->setText(ToQ(engine_.GetMemoryContents())); });
     engine_.SetOnBaseDisplayChange([this](IQORProgCalcEngine*) { EnableDigits(); });
     ValueDisplay->setText(ToQ(engine_.GetDisplayStr()));
+    SetTapeModel(new TQORTapeModel(engine_, this));
     InstallKeyPreview();
 }
 

@@ -4,6 +4,7 @@
 #include "QORKITImperial.h"
 #include "QORKITSettings.h"
 #include "QORKIT_RS_Calc.h"
+#include "QORKIT_RS_Dialogs.h"
 #include "QORKIT_RS_UC.h"
 
 #include <QCoreApplication>
@@ -154,12 +155,13 @@ void SyncFormatSettingsFromLocale(const QLocale& locale)
 std::span<const TTextModule> TextModules()
 {
     // The contexts are those the modules pass to LoadResString.
-    static const std::array<TTextModule, 5> modules {{
+    static const std::array<TTextModule, 6> modules {{
         {"QORKIT_Base", BaseTexts()},
         {"QORKIT_RS_Calc", CalcTexts()},
         {UCTextContext, UCTexts()},
         {"QORKITImperial", ImperialTexts()},
         {"QORKITFloatEdit", FloatEditTexts()},
+        {DialogTextContext, DialogTexts()},
     }};
     return modules;
 }

@@ -17,7 +17,8 @@ namespace qorkit {
 // Routes every resource-string lookup through QCoreApplication::translate(context, source),
 // so translators installed with QCoreApplication::installTranslator() translate the library.
 // The contexts are the text modules ("QORKIT_Base", "QORKIT_RS_Calc", "QORKIT_RS_UC") and the
-// modules that keep texts of their own ("QORKITImperial", "QORKITFloatEdit"); see TextModules().
+// modules that keep texts of their own ("QORKITImperial", "QORKITFloatEdit", "QORKIT_RS_Dialogs");
+// see TextModules().
 // SetTranslationHook({}) returns to the built-in English texts.
 void InstallQtTranslationHook();
 
