@@ -6483,5 +6483,710 @@
             <extracomment>rsTapeCopy</extracomment>
             <translation>Papierstreifen kopieren</translation>
         </message>
+        <message>
+            <source>value</source>
+            <extracomment>rsDisplayAccName</extracomment>
+            <translation>Wert</translation>
+        </message>
+        <message>
+            <source>The value being entered or the last result</source>
+            <extracomment>rsDisplayAccDescription</extracomment>
+            <translation>Der eingegebene Wert oder das letzte Ergebnis</translation>
+        </message>
+        <message>
+            <source>memory</source>
+            <extracomment>rsMemoryAccName</extracomment>
+            <translation>Speicher</translation>
+        </message>
+        <message>
+            <source>The value held in memory</source>
+            <extracomment>rsMemoryAccDescription</extracomment>
+            <translation>Der Wert im Speicher</translation>
+        </message>
+        <message>
+            <source>decimal places</source>
+            <extracomment>rsDecimalsAccName</extracomment>
+            <translation>Nachkommastellen</translation>
+        </message>
+        <message>
+            <source>How many decimal places the value shows</source>
+            <extracomment>rsDecimalsAccDescription</extracomment>
+            <translation>Wie viele Nachkommastellen der Wert zeigt</translation>
+        </message>
+        <message>
+            <source>number base</source>
+            <extracomment>rsBaseAccName</extracomment>
+            <translation>Zahlenbasis</translation>
+        </message>
+        <message>
+            <source>bit length</source>
+            <extracomment>rsBitsAccName</extracomment>
+            <translation>Bitlänge</translation>
+        </message>
+        <message>
+            <source>Every number and operation so far, newest last</source>
+            <extracomment>rsTapeAccDescription</extracomment>
+            <translation>Alle bisherigen Zahlen und Operationen, die neueste zuletzt</translation>
+        </message>
+        <message>
+            <source>zero</source>
+            <extracomment>ZeroBtn name</extracomment>
+            <translation>null</translation>
+        </message>
+        <message>
+            <source>Enters the digit 0</source>
+            <extracomment>ZeroBtn description</extracomment>
+            <translation>Gibt die Ziffer 0 ein</translation>
+        </message>
+        <message>
+            <source>one</source>
+            <extracomment>OneBtn name</extracomment>
+            <translation>eins</translation>
+        </message>
+        <message>
+            <source>Enters the digit 1</source>
+            <extracomment>OneBtn description</extracomment>
+            <translation>Gibt die Ziffer 1 ein</translation>
+        </message>
+        <message>
+            <source>two</source>
+            <extracomment>TwoBtn name</extracomment>
+            <translation>zwei</translation>
+        </message>
+        <message>
+            <source>Enters the digit 2</source>
+            <extracomment>TwoBtn description</extracomment>
+            <translation>Gibt die Ziffer 2 ein</translation>
+        </message>
+        <message>
+            <source>three</source>
+            <extracomment>ThreeBtn name</extracomment>
+            <translation>drei</translation>
+        </message>
+        <message>
+            <source>Enters the digit 3</source>
+            <extracomment>ThreeBtn description</extracomment>
+            <translation>Gibt die Ziffer 3 ein</translation>
+        </message>
+        <message>
+            <source>four</source>
+            <extracomment>FourBtn name</extracomment>
+            <translation>vier</translation>
+        </message>
+        <message>
+            <source>Enters the digit 4</source>
+            <extracomment>FourBtn description</extracomment>
+            <translation>Gibt die Ziffer 4 ein</translation>
+        </message>
+        <message>
+            <source>five</source>
+            <extracomment>FiveBtn name</extracomment>
+            <translation>fünf</translation>
+        </message>
+        <message>
+            <source>Enters the digit 5</source>
+            <extracomment>FiveBtn description</extracomment>
+            <translation>Gibt die Ziffer 5 ein</translation>
+        </message>
+        <message>
+            <source>six</source>
+            <extracomment>SixBtn name</extracomment>
+            <translation>sechs</translation>
+        </message>
+        <message>
+            <source>Enters the digit 6</source>
+            <extracomment>SixBtn description</extracomment>
+            <translation>Gibt die Ziffer 6 ein</translation>
+        </message>
+        <message>
+            <source>seven</source>
+            <extracomment>SevenBtn name</extracomment>
+            <translation>sieben</translation>
+        </message>
+        <message>
+            <source>Enters the digit 7</source>
+            <extracomment>SevenBtn description</extracomment>
+            <translation>Gibt die Ziffer 7 ein</translation>
+        </message>
+        <message>
+            <source>eight</source>
+            <extracomment>EightBtn name</extracomment>
+            <translation>acht</translation>
+        </message>
+        <message>
+            <source>Enters the digit 8</source>
+            <extracomment>EightBtn description</extracomment>
+            <translation>Gibt die Ziffer 8 ein</translation>
+        </message>
+        <message>
+            <source>nine</source>
+            <extracomment>NineBtn name</extracomment>
+            <translation>neun</translation>
+        </message>
+        <message>
+            <source>Enters the digit 9</source>
+            <extracomment>NineBtn description</extracomment>
+            <translation>Gibt die Ziffer 9 ein</translation>
+        </message>
+        <message>
+            <source>decimal point</source>
+            <extracomment>PointBtn name</extracomment>
+            <translation>Dezimaltrennzeichen</translation>
+        </message>
+        <message>
+            <source>Starts the decimals of the number</source>
+            <extracomment>PointBtn description</extracomment>
+            <translation>Beginnt die Nachkommastellen der Zahl</translation>
+        </message>
+        <message>
+            <source>plus</source>
+            <extracomment>AddBtn name</extracomment>
+            <translation>plus</translation>
+        </message>
+        <message>
+            <source>Adds the next number</source>
+            <extracomment>AddBtn description</extracomment>
+            <translation>Addiert die nächste Zahl</translation>
+        </message>
+        <message>
+            <source>minus</source>
+            <extracomment>SubtractBtn name</extracomment>
+            <translation>minus</translation>
+        </message>
+        <message>
+            <source>Subtracts the next number</source>
+            <extracomment>SubtractBtn description</extracomment>
+            <translation>Subtrahiert die nächste Zahl</translation>
+        </message>
+        <message>
+            <source>times</source>
+            <extracomment>MultiplyBtn name</extracomment>
+            <translation>mal</translation>
+        </message>
+        <message>
+            <source>Multiplies by the next number</source>
+            <extracomment>MultiplyBtn description</extracomment>
+            <translation>Multipliziert mit der nächsten Zahl</translation>
+        </message>
+        <message>
+            <source>divided by</source>
+            <extracomment>DivideBtn name</extracomment>
+            <translation>geteilt durch</translation>
+        </message>
+        <message>
+            <source>Divides by the next number</source>
+            <extracomment>DivideBtn description</extracomment>
+            <translation>Teilt durch die nächste Zahl</translation>
+        </message>
+        <message>
+            <source>equals</source>
+            <extracomment>EqualsBtn name</extracomment>
+            <translation>gleich</translation>
+        </message>
+        <message>
+            <source>Completes the calculation and shows the result</source>
+            <extracomment>EqualsBtn description</extracomment>
+            <translation>Schließt die Rechnung ab und zeigt das Ergebnis</translation>
+        </message>
+        <message>
+            <source>open bracket</source>
+            <extracomment>LeftBracketBtn name</extracomment>
+            <translation>Klammer auf</translation>
+        </message>
+        <message>
+            <source>Opens a bracket</source>
+            <extracomment>LeftBracketBtn description</extracomment>
+            <translation>Öffnet eine Klammer</translation>
+        </message>
+        <message>
+            <source>close bracket</source>
+            <extracomment>RightBracketBtn name</extracomment>
+            <translation>Klammer zu</translation>
+        </message>
+        <message>
+            <source>Closes the bracket and calculates its contents</source>
+            <extracomment>RightBracketBtn description</extracomment>
+            <translation>Schließt die Klammer und berechnet ihren Inhalt</translation>
+        </message>
+        <message>
+            <source>all clear</source>
+            <extracomment>AllClearBtn name</extracomment>
+            <translation>alles löschen</translation>
+        </message>
+        <message>
+            <source>Clears the calculation and the tape; the memory is kept</source>
+            <extracomment>AllClearBtn description</extracomment>
+            <translation>Löscht die Rechnung und den Papierstreifen; der Speicher bleibt</translation>
+        </message>
+        <message>
+            <source>clear entry</source>
+            <extracomment>ClearBtn name, ClearBtn name</extracomment>
+            <translation>Eingabe löschen</translation>
+        </message>
+        <message>
+            <source>Clears the value being entered</source>
+            <extracomment>ClearBtn description, ClearBtn description</extracomment>
+            <translation>Löscht den eingegebenen Wert</translation>
+        </message>
+        <message>
+            <source>backspace</source>
+            <extracomment>BackSpaceBtn name</extracomment>
+            <translation>Rückschritt</translation>
+        </message>
+        <message>
+            <source>Deletes the last digit entered</source>
+            <extracomment>BackSpaceBtn description</extracomment>
+            <translation>Löscht die zuletzt eingegebene Ziffer</translation>
+        </message>
+        <message>
+            <source>memory clear</source>
+            <extracomment>MemoryClearBtn name</extracomment>
+            <translation>Speicher löschen</translation>
+        </message>
+        <message>
+            <source>Sets the memory to zero</source>
+            <extracomment>MemoryClearBtn description</extracomment>
+            <translation>Setzt den Speicher auf null</translation>
+        </message>
+        <message>
+            <source>memory recall</source>
+            <extracomment>MemoryRecallBtn name</extracomment>
+            <translation>Speicher abrufen</translation>
+        </message>
+        <message>
+            <source>Shows the value held in memory</source>
+            <extracomment>MemoryRecallBtn description</extracomment>
+            <translation>Zeigt den Wert im Speicher</translation>
+        </message>
+        <message>
+            <source>memory add</source>
+            <extracomment>MemoryAddBtn name</extracomment>
+            <translation>Speicher plus</translation>
+        </message>
+        <message>
+            <source>Adds the value to the memory</source>
+            <extracomment>MemoryAddBtn description</extracomment>
+            <translation>Addiert den Wert zum Speicher</translation>
+        </message>
+        <message>
+            <source>memory subtract</source>
+            <extracomment>MemorySubtractBtn name</extracomment>
+            <translation>Speicher minus</translation>
+        </message>
+        <message>
+            <source>Subtracts the value from the memory</source>
+            <extracomment>MemorySubtractBtn description</extracomment>
+            <translation>Subtrahiert den Wert vom Speicher</translation>
+        </message>
+        <message>
+            <source>OK</source>
+            <extracomment>ExitBtn name</extracomment>
+            <translation>OK</translation>
+        </message>
+        <message>
+            <source>Closes the calculator and takes the result</source>
+            <extracomment>ExitBtn description</extracomment>
+            <translation>Schließt den Rechner und übernimmt das Ergebnis</translation>
+        </message>
+        <message>
+            <source>cancel</source>
+            <extracomment>CancelBtn name</extracomment>
+            <translation>abbrechen</translation>
+        </message>
+        <message>
+            <source>Closes the calculator without taking the result</source>
+            <extracomment>CancelBtn description</extracomment>
+            <translation>Schließt den Rechner, ohne das Ergebnis zu übernehmen</translation>
+        </message>
+        <message>
+            <source>copy</source>
+            <extracomment>CopyBtn name</extracomment>
+            <translation>kopieren</translation>
+        </message>
+        <message>
+            <source>Copies the value to the clipboard</source>
+            <extracomment>CopyBtn description</extracomment>
+            <translation>Kopiert den Wert in die Zwischenablage</translation>
+        </message>
+        <message>
+            <source>paste</source>
+            <extracomment>PasteBtn name</extracomment>
+            <translation>einfügen</translation>
+        </message>
+        <message>
+            <source>Enters the number on the clipboard</source>
+            <extracomment>PasteBtn description</extracomment>
+            <translation>Gibt die Zahl aus der Zwischenablage ein</translation>
+        </message>
+        <message>
+            <source>change sign</source>
+            <extracomment>ChangeSignBtn name</extracomment>
+            <translation>Vorzeichen wechseln</translation>
+        </message>
+        <message>
+            <source>Changes the sign of the value</source>
+            <extracomment>ChangeSignBtn description</extracomment>
+            <translation>Wechselt das Vorzeichen des Werts</translation>
+        </message>
+        <message>
+            <source>power</source>
+            <extracomment>PowerBtn name</extracomment>
+            <translation>Potenz</translation>
+        </message>
+        <message>
+            <source>Raises the value to the power of the next number; with inverse, takes that root</source>
+            <extracomment>PowerBtn description</extracomment>
+            <translation>Potenziert den Wert mit der nächsten Zahl; mit Umkehrung die entsprechende Wurzel</translation>
+        </message>
+        <message>
+            <source>pi</source>
+            <extracomment>PiBtn name</extracomment>
+            <translation>Pi</translation>
+        </message>
+        <message>
+            <source>Enters the constant pi</source>
+            <extracomment>PiBtn description</extracomment>
+            <translation>Gibt die Konstante Pi ein</translation>
+        </message>
+        <message>
+            <source>Euler's number</source>
+            <extracomment>EBtn name</extracomment>
+            <translation>Eulersche Zahl</translation>
+        </message>
+        <message>
+            <source>Enters the constant e</source>
+            <extracomment>EBtn description</extracomment>
+            <translation>Gibt die Konstante e ein</translation>
+        </message>
+        <message>
+            <source>square</source>
+            <extracomment>SquareBtn name</extracomment>
+            <translation>Quadrat</translation>
+        </message>
+        <message>
+            <source>Squares the value</source>
+            <extracomment>SquareBtn description</extracomment>
+            <translation>Quadriert den Wert</translation>
+        </message>
+        <message>
+            <source>square root</source>
+            <extracomment>SqRootBtn name</extracomment>
+            <translation>Quadratwurzel</translation>
+        </message>
+        <message>
+            <source>Takes the square root of the value</source>
+            <extracomment>SqRootBtn description</extracomment>
+            <translation>Zieht die Quadratwurzel aus dem Wert</translation>
+        </message>
+        <message>
+            <source>reciprocal</source>
+            <extracomment>InvertBtn name</extracomment>
+            <translation>Kehrwert</translation>
+        </message>
+        <message>
+            <source>Divides one by the value</source>
+            <extracomment>InvertBtn description</extracomment>
+            <translation>Teilt eins durch den Wert</translation>
+        </message>
+        <message>
+            <source>common logarithm</source>
+            <extracomment>LogBtn name</extracomment>
+            <translation>Zehnerlogarithmus</translation>
+        </message>
+        <message>
+            <source>Logarithm to base 10; with inverse, ten to the power of the value</source>
+            <extracomment>LogBtn description</extracomment>
+            <translation>Logarithmus zur Basis 10; mit Umkehrung zehn hoch den Wert</translation>
+        </message>
+        <message>
+            <source>natural logarithm</source>
+            <extracomment>LNBtn name</extracomment>
+            <translation>natürlicher Logarithmus</translation>
+        </message>
+        <message>
+            <source>Logarithm to base e; with inverse, e to the power of the value</source>
+            <extracomment>LNBtn description</extracomment>
+            <translation>Logarithmus zur Basis e; mit Umkehrung e hoch den Wert</translation>
+        </message>
+        <message>
+            <source>binary logarithm</source>
+            <extracomment>Lg2btn name</extracomment>
+            <translation>Zweierlogarithmus</translation>
+        </message>
+        <message>
+            <source>Logarithm to base 2; with inverse, two to the power of the value</source>
+            <extracomment>Lg2btn description</extracomment>
+            <translation>Logarithmus zur Basis 2; mit Umkehrung zwei hoch den Wert</translation>
+        </message>
+        <message>
+            <source>sine</source>
+            <extracomment>SinBtn name</extracomment>
+            <translation>Sinus</translation>
+        </message>
+        <message>
+            <source>Sine of the value; with inverse the arcsine, with hyperbolic the hyperbolic sine</source>
+            <extracomment>SinBtn description</extracomment>
+            <translation>Sinus des Werts; mit Umkehrung der Arkussinus, hyperbolisch der Sinus hyperbolicus</translation>
+        </message>
+        <message>
+            <source>cosine</source>
+            <extracomment>CosBtn name</extracomment>
+            <translation>Kosinus</translation>
+        </message>
+        <message>
+            <source>Cosine of the value; with inverse the arccosine, with hyperbolic the hyperbolic cosine</source>
+            <extracomment>CosBtn description</extracomment>
+            <translation>Kosinus des Werts; mit Umkehrung der Arkuskosinus, hyperbolisch der Kosinus hyperbolicus</translation>
+        </message>
+        <message>
+            <source>tangent</source>
+            <extracomment>TanBtn name</extracomment>
+            <translation>Tangens</translation>
+        </message>
+        <message>
+            <source>Tangent of the value; with inverse the arctangent, with hyperbolic the hyperbolic tangent</source>
+            <extracomment>TanBtn description</extracomment>
+            <translation>Tangens des Werts; mit Umkehrung der Arkustangens, hyperbolisch der Tangens hyperbolicus</translation>
+        </message>
+        <message>
+            <source>inverse</source>
+            <extracomment>InvBtn name</extracomment>
+            <translation>Umkehrung</translation>
+        </message>
+        <message>
+            <source>Switches the next function to its inverse</source>
+            <extracomment>InvBtn description</extracomment>
+            <translation>Schaltet die nächste Funktion auf ihre Umkehrfunktion</translation>
+        </message>
+        <message>
+            <source>hyperbolic</source>
+            <extracomment>HypBtn name</extracomment>
+            <translation>hyperbolisch</translation>
+        </message>
+        <message>
+            <source>Switches the next trigonometric function to its hyperbolic form</source>
+            <extracomment>HypBtn description</extracomment>
+            <translation>Schaltet die nächste Winkelfunktion auf ihre hyperbolische Form</translation>
+        </message>
+        <message>
+            <source>percent</source>
+            <extracomment>PercentBtn name</extracomment>
+            <translation>Prozent</translation>
+        </message>
+        <message>
+            <source>Takes the value as a percentage</source>
+            <extracomment>PercentBtn description</extracomment>
+            <translation>Nimmt den Wert als Prozentsatz</translation>
+        </message>
+        <message>
+            <source>angle unit</source>
+            <extracomment>RadBtn name</extracomment>
+            <translation>Winkeleinheit</translation>
+        </message>
+        <message>
+            <source>Switches between degrees, radians and gradians</source>
+            <extracomment>RadBtn description</extracomment>
+            <translation>Wechselt zwischen Grad, Bogenmaß und Gon</translation>
+        </message>
+        <message>
+            <source>exponent</source>
+            <extracomment>ExpBtn name</extracomment>
+            <translation>Exponent</translation>
+        </message>
+        <message>
+            <source>Starts the power of ten of the number</source>
+            <extracomment>ExpBtn description</extracomment>
+            <translation>Beginnt die Zehnerpotenz der Zahl</translation>
+        </message>
+        <message>
+            <source>hex digit A</source>
+            <extracomment>ABtn name</extracomment>
+            <translation>Hex-Ziffer A</translation>
+        </message>
+        <message>
+            <source>Enters the hexadecimal digit A</source>
+            <extracomment>ABtn description</extracomment>
+            <translation>Gibt die Hexadezimalziffer A ein</translation>
+        </message>
+        <message>
+            <source>hex digit B</source>
+            <extracomment>BBtn name</extracomment>
+            <translation>Hex-Ziffer B</translation>
+        </message>
+        <message>
+            <source>Enters the hexadecimal digit B</source>
+            <extracomment>BBtn description</extracomment>
+            <translation>Gibt die Hexadezimalziffer B ein</translation>
+        </message>
+        <message>
+            <source>hex digit C</source>
+            <extracomment>CBtn name</extracomment>
+            <translation>Hex-Ziffer C</translation>
+        </message>
+        <message>
+            <source>Enters the hexadecimal digit C</source>
+            <extracomment>CBtn description</extracomment>
+            <translation>Gibt die Hexadezimalziffer C ein</translation>
+        </message>
+        <message>
+            <source>hex digit D</source>
+            <extracomment>DBtn name</extracomment>
+            <translation>Hex-Ziffer D</translation>
+        </message>
+        <message>
+            <source>Enters the hexadecimal digit D</source>
+            <extracomment>DBtn description</extracomment>
+            <translation>Gibt die Hexadezimalziffer D ein</translation>
+        </message>
+        <message>
+            <source>hex digit E</source>
+            <extracomment>EBtn name</extracomment>
+            <translation>Hex-Ziffer E</translation>
+        </message>
+        <message>
+            <source>Enters the hexadecimal digit E</source>
+            <extracomment>EBtn description</extracomment>
+            <translation>Gibt die Hexadezimalziffer E ein</translation>
+        </message>
+        <message>
+            <source>hex digit F</source>
+            <extracomment>FBtn name</extracomment>
+            <translation>Hex-Ziffer F</translation>
+        </message>
+        <message>
+            <source>Enters the hexadecimal digit F</source>
+            <extracomment>FBtn description</extracomment>
+            <translation>Gibt die Hexadezimalziffer F ein</translation>
+        </message>
+        <message>
+            <source>modulo</source>
+            <extracomment>ModBtn name</extracomment>
+            <translation>modulo</translation>
+        </message>
+        <message>
+            <source>Remainder of the division by the next number</source>
+            <extracomment>ModBtn description</extracomment>
+            <translation>Rest der Division durch die nächste Zahl</translation>
+        </message>
+        <message>
+            <source>bitwise and</source>
+            <extracomment>ANDBtn name</extracomment>
+            <translation>bitweises Und</translation>
+        </message>
+        <message>
+            <source>Bits set in both numbers</source>
+            <extracomment>ANDBtn description</extracomment>
+            <translation>Bits, die in beiden Zahlen gesetzt sind</translation>
+        </message>
+        <message>
+            <source>bitwise or</source>
+            <extracomment>ORBtn name</extracomment>
+            <translation>bitweises Oder</translation>
+        </message>
+        <message>
+            <source>Bits set in either number</source>
+            <extracomment>ORBtn description</extracomment>
+            <translation>Bits, die in einer der Zahlen gesetzt sind</translation>
+        </message>
+        <message>
+            <source>bitwise exclusive or</source>
+            <extracomment>XORBtn name</extracomment>
+            <translation>bitweises exklusives Oder</translation>
+        </message>
+        <message>
+            <source>Bits set in exactly one of the numbers</source>
+            <extracomment>XORBtn description</extracomment>
+            <translation>Bits, die in genau einer der Zahlen gesetzt sind</translation>
+        </message>
+        <message>
+            <source>bitwise not and</source>
+            <extracomment>NANDBtn name</extracomment>
+            <translation>bitweises Nicht-Und</translation>
+        </message>
+        <message>
+            <source>Bits not set in both numbers</source>
+            <extracomment>NANDBtn description</extracomment>
+            <translation>Bits, die nicht in beiden Zahlen gesetzt sind</translation>
+        </message>
+        <message>
+            <source>bitwise not or</source>
+            <extracomment>NORBtn name</extracomment>
+            <translation>bitweises Nicht-Oder</translation>
+        </message>
+        <message>
+            <source>Bits set in neither number</source>
+            <extracomment>NORBtn description</extracomment>
+            <translation>Bits, die in keiner der Zahlen gesetzt sind</translation>
+        </message>
+        <message>
+            <source>bitwise not exclusive or</source>
+            <extracomment>XNORBtn name</extracomment>
+            <translation>bitweises exklusives Nicht-Oder</translation>
+        </message>
+        <message>
+            <source>Bits equal in both numbers</source>
+            <extracomment>XNORBtn description</extracomment>
+            <translation>Bits, die in beiden Zahlen gleich sind</translation>
+        </message>
+        <message>
+            <source>bitwise not</source>
+            <extracomment>NotBtn name</extracomment>
+            <translation>bitweises Nicht</translation>
+        </message>
+        <message>
+            <source>Inverts every bit of the value</source>
+            <extracomment>NotBtn description</extracomment>
+            <translation>Kehrt jedes Bit des Werts um</translation>
+        </message>
+        <message>
+            <source>negate</source>
+            <extracomment>NEGBtn name</extracomment>
+            <translation>negieren</translation>
+        </message>
+        <message>
+            <source>Changes the sign of the value (two's complement)</source>
+            <extracomment>NEGBtn description</extracomment>
+            <translation>Wechselt das Vorzeichen des Werts (Zweierkomplement)</translation>
+        </message>
+        <message>
+            <source>shift left</source>
+            <extracomment>SHLBtn name</extracomment>
+            <translation>nach links schieben</translation>
+        </message>
+        <message>
+            <source>Shifts the bits one place to the left</source>
+            <extracomment>SHLBtn description</extracomment>
+            <translation>Schiebt die Bits um eine Stelle nach links</translation>
+        </message>
+        <message>
+            <source>shift right</source>
+            <extracomment>SHRBtn name</extracomment>
+            <translation>nach rechts schieben</translation>
+        </message>
+        <message>
+            <source>Shifts the bits one place to the right</source>
+            <extracomment>SHRBtn description</extracomment>
+            <translation>Schiebt die Bits um eine Stelle nach rechts</translation>
+        </message>
+        <message>
+            <source>rotate left</source>
+            <extracomment>ROLBtn name</extracomment>
+            <translation>nach links rotieren</translation>
+        </message>
+        <message>
+            <source>Rotates the bits one place to the left</source>
+            <extracomment>ROLBtn description</extracomment>
+            <translation>Rotiert die Bits um eine Stelle nach links</translation>
+        </message>
+        <message>
+            <source>rotate right</source>
+            <extracomment>RORBtn name</extracomment>
+            <translation>nach rechts rotieren</translation>
+        </message>
+        <message>
+            <source>Rotates the bits one place to the right</source>
+            <extracomment>RORBtn description</extracomment>
+            <translation>Rotiert die Bits um eine Stelle nach rechts</translation>
+        </message>
     </context>
 </TS>

@@ -4,6 +4,7 @@
 #include "QORKITTapeModel.h"
 #include "QORKIT_RS_Dialogs.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -13,7 +14,9 @@
 #include <QScreen>
 #include <QVariant>
 
+#include <algorithm>
 #include <cctype>
+#include <utility>
 
 namespace qorkit {
 
@@ -125,7 +128,8 @@ QToolButton* TQORCalcFormBase::NewKey(const TQORKeyLook& look)
 {
     auto* button = new QToolButton(KeyPanel);
     button->setObjectName(QString::fromLatin1(look.Name));
-    button->setFocusPolicy(Qt::NoFocus);
+    // Keys take the focus from Tab only (a click leaves it where typing goes on working).
+    button->setFocusPolicy(Qt::TabFocus);
     button->setAutoRaise(flat_);
     button->setToolButtonStyle(look.Glyph >= 0 ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextOnly);
     if (look.Text != nullptr)
@@ -163,6 +167,58 @@ void TQORCalcFormBase::UpdateLanguage()
     }
     ValueDisplay->setToolTip(ToQ(rsValueHint()));
     MemoryDisplay->setToolTip(ToQ(rsMemoryHint()));
+    for (const auto& key : keyTexts_) {
+        const std::string name = key.Button->objectName().toStdString();
+        key.Button->setAccessibleName(ToQ(KeyAccessibleName(name, ProgrammersKeys())));
+        key.Button->setAccessibleDescription(
+            ToQ(KeyAccessibleDescription(name, ProgrammersKeys())));
+    }
+    ValueDisplay->setAccessibleName(ToQ(rsDisplayAccName()));
+    ValueDisplay->setAccessibleDescription(ToQ(rsDisplayAccDescription()));
+    MemoryDisplay->setAccessibleName(ToQ(rsMemoryAccName()));
+    MemoryDisplay->setAccessibleDescription(ToQ(rsMemoryAccDescription()));
+    KeyPanel->setAccessibleName(ToQ(rsCalculator()));
+    if (TapeView != nullptr) {
+        TapeView->setAccessibleName(ToQ(rsTapeHint()));
+        TapeView->setAccessibleDescription(ToQ(rsTapeAccDescription()));
+    }
+}
+
+void TQORCalcFormBase::SetPanelText(TQORBasePanel* panel, const QString& text)
+{
+    if (panel->text() == text)
+        return;
+    panel->setText(text);
+    QAccessibleValueChangeEvent event(panel, text);
+    QAccessible::updateAccessibility(&event);
+}
+
+void TQORCalcFormBase::UpdateTabOrder()
+{
+    // Everything Tab reaches, by where it is on the form: rows top to bottom (keys of a row
+    // share their top), left to right inside a row; the tape beside the keys comes last.
+    std::vector<QWidget*> chain;
+    for (auto* widget : findChildren<QWidget*>()) {
+        if ((widget->focusPolicy() & Qt::TabFocus) != 0 && !widget->isHidden()
+            && widget != TapeView)
+            chain.push_back(widget);
+    }
+    // A control's inner editor (a spin edit's line edit) goes with its control.
+    std::erase_if(chain, [&chain](QWidget* widget) {
+        return std::any_of(chain.begin(), chain.end(), [widget](QWidget* other) {
+            return other->focusProxy() == widget && other->isAncestorOf(widget);
+        });
+    });
+    const auto place = [this](QWidget* widget) {
+        const QPoint topLeft = widget->mapTo(this, QPoint(0, 0));
+        return std::pair(topLeft.y(), topLeft.x());
+    };
+    std::stable_sort(chain.begin(), chain.end(),
+                     [&place](QWidget* a, QWidget* b) { return place(a) < place(b); });
+    if (TapeView != nullptr && !TapeView->isHidden())
+        chain.push_back(TapeView);
+    for (std::size_t i = 1; i < chain.size(); ++i)
+        setTabOrder(chain[i - 1], chain[i]);
 }
 
 void TQORCalcFormBase::PlaceKeys(std::span<const TQORKeyPlace> places, int rows)
@@ -214,6 +270,8 @@ void TQORCalcFormBase::SetTapeModel(TQORTapeModel* model)
     TapeView->setEditTriggers(QAbstractItemView::NoEditTriggers);
     TapeView->setFocusPolicy(Qt::StrongFocus);
     TapeView->setToolTip(ToQ(rsTapeHint()));
+    TapeView->setAccessibleName(ToQ(rsTapeHint()));
+    TapeView->setAccessibleDescription(ToQ(rsTapeAccDescription()));
     TapeView->hide();
     auto* copy = new QAction(ToQ(rsTapeCopy()), TapeView);
     copy->setObjectName(QStringLiteral("TapeCopyAction"));
@@ -232,6 +290,7 @@ void TQORCalcFormBase::SetShowTape(bool value)
         return;
     showTape_ = value;
     TapeView->setVisible(value);
+    UpdateTabOrder();
     if (formWidth_ > 0)
         SetFormSize(formWidth_, formHeight_);
     if (value)
@@ -423,6 +482,7 @@ void TQORCalcFormBase::MoveTo(int left, int top)
 
 void TQORCalcFormBase::showEvent(QShowEvent* event)
 {
+    UpdateTabOrder();
     if (!placed_) {
         placed_ = true;
         QPoint topLeft = pos();

@@ -180,8 +180,12 @@ public:
     int GetHelpContext() const { return helpContext_; }
     void SetHelpContext(int value) { helpContext_ = value; }
 
-    // Texts of every key and the caption from the resource strings.
+    // Texts of every key and the caption from the resource strings, with what assistive
+    // technology says of each key, panel and list.
     virtual void UpdateLanguage();
+    // Tab order in reading order: the controls and keys row by row, left to right, the tape
+    // last. Done when the form is shown; keys are reached with Tab and pressed with Space.
+    void UpdateTabOrder();
     // The engine's last error text.
     virtual std::string GetLastError() const = 0;
 
@@ -219,6 +223,10 @@ protected:
     // The float calculators' frame: value panel at the top, the key grid, the memory panel
     // below, both panels as wide as the form less the margins; `extraHeight` is added.
     void LayoutPanels(int rows, int extraHeight = 0);
+    // Whether the keys are the programmer's (their accessible texts differ: "EBtn" is a digit).
+    virtual bool ProgrammersKeys() const { return false; }
+    // Shows `text` on a display panel; a change is announced to assistive technology.
+    void SetPanelText(TQORBasePanel* panel, const QString& text);
     // The form's size without the tape (the tape adds its width when shown).
     void SetFormSize(int width, int height);
     // Gives the form its tape (made after the engine's own handlers are set); the view stays

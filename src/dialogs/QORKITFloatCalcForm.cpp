@@ -2,6 +2,7 @@
 
 #include "QORKITSettings.h"
 #include "QORKITTapeModel.h"
+#include "QORKIT_RS_Dialogs.h"
 
 #include <QLineEdit>
 #include <QPalette>
@@ -127,10 +128,10 @@ TQORFloatCalcForm::TQORFloatCalcForm(QWidget* parent, TQORFormGeometry geometry)
 
     ApplyDispFont(QString::fromStdString(QORCalcDispFont));
     engine_.SetOnDisplayChange([this](TQORCalcEngine*) {
-        ValueDisplay->setText(QString::fromStdString(engine_.GetDisplayStr()));
+        SetPanelText(ValueDisplay, QString::fromStdString(engine_.GetDisplayStr()));
     });
     engine_.SetOnMemoryChange([this](TQORCalcEngine*) {
-        MemoryDisplay->setText(QString::fromStdString(engine_.GetMemoryContents()));
+        SetPanelText(MemoryDisplay, QString::fromStdString(engine_.GetMemoryContents()));
     });
     engine_.SetOnDecimalPlacesChange([this](TQORCalcEngine*) {
         const QSignalBlocker quiet(DPSpin);
@@ -184,6 +185,8 @@ void TQORFloatCalcForm::UpdateLanguage()
 {
     TQORCalcFormBase::UpdateLanguage();
     DPSpin->setToolTip(QString::fromStdString(rsDecimalsHint()));
+    DPSpin->setAccessibleName(QString::fromStdString(rsDecimalsAccName()));
+    DPSpin->setAccessibleDescription(QString::fromStdString(rsDecimalsAccDescription()));
     RadBtn->setText(QString::fromStdString(engine_.GetAngleModeStr()));
     ShowToggles();
 }

@@ -3,6 +3,7 @@
 #include "QORKITRegIni.h"
 #include "QORKITSettings.h"
 #include "QORKITTapeModel.h"
+#include "QORKIT_RS_Dialogs.h"
 
 #include <array>
 
@@ -199,9 +200,10 @@ TQORProgCalcForm::TQORProgCalcForm(QWidget* parent)
     // The size list is deliberately not told of size changes the engine makes by itself
     // (decimal forces 64 bits): it keeps showing the size the user chose.
     engine_.SetOnDisplayChange(
-        [this](IQORProgCalcEngine*) { ValueDisplay->setText(ToQ(engine_.GetDisplayStr())); });
-    engine_.SetOnMemoryChange(
-        [this](IQORProgCalcEngine*) { MemoryDisplay->setText(ToQ(engine_.GetMemoryContents())); });
+        [this](IQORProgCalcEngine*) { SetPanelText(ValueDisplay, ToQ(engine_.GetDisplayStr())); });
+    engine_.SetOnMemoryChange([this](IQORProgCalcEngine*) {
+        SetPanelText(MemoryDisplay, ToQ(engine_.GetMemoryContents()));
+    });
     engine_.SetOnBaseDisplayChange([this](IQORProgCalcEngine*) { EnableDigits(); });
     ValueDisplay->setText(ToQ(engine_.GetDisplayStr()));
     SetTapeModel(new TQORTapeModel(engine_, this));
@@ -230,6 +232,10 @@ void TQORProgCalcForm::UpdateLanguage()
     LoadLists();
     BaseCombo->setToolTip(ToQ(rsBaseHint()));
     BitsCombo->setToolTip(ToQ(rsBitsHint()));
+    BaseCombo->setAccessibleName(ToQ(rsBaseAccName()));
+    BaseCombo->setAccessibleDescription(ToQ(rsBaseHint()));
+    BitsCombo->setAccessibleName(ToQ(rsBitsAccName()));
+    BitsCombo->setAccessibleDescription(ToQ(rsBitsHint()));
 }
 
 std::vector<std::span<const TQORCharKey>> TQORProgCalcForm::CharKeys() const
