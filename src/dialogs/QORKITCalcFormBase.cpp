@@ -483,6 +483,10 @@ void TQORCalcFormBase::MoveTo(int left, int top)
 void TQORCalcFormBase::showEvent(QShowEvent* event)
 {
     UpdateTabOrder();
+    // Typing starts on the keys whatever comes first in the tab order (the lists above the
+    // programmer's keys).
+    if (focusWidget() == nullptr)
+        KeyPanel->setFocus(Qt::OtherFocusReason);
     if (!placed_) {
         placed_ = true;
         QPoint topLeft = pos();

@@ -155,6 +155,7 @@ TYPED_TEST(AccessibleDialogTest, TabReachesEveryKeyInReadingOrder)
     TypeParam form;
     form.SetShowTape(true);
     form.show();
+    EXPECT_EQ(form.focusWidget(), form.KeyPanel); // typing starts on the keys
     // Walk the focus chain once around from the form.
     std::vector<QWidget*> chain;
     for (QWidget* w = form.nextInFocusChain(); w != &form; w = w->nextInFocusChain()) {
