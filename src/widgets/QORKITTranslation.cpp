@@ -42,7 +42,6 @@ QStringList TranslationDirs()
     if (QCoreApplication::instance() != nullptr)
         dirs << QDir(QCoreApplication::applicationDirPath())
                     .filePath(QStringLiteral("translations"));
-    dirs << QStringLiteral(QORKIT_BUILD_TRANSLATIONS);
     return dirs;
 }
 
