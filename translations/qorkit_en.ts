@@ -6471,4 +6471,722 @@
             <translation type="unfinished"/>
         </message>
     </context>
+    <context>
+        <name>QORKIT_RS_Dialogs</name>
+        <message>
+            <source>Paper Tape</source>
+            <extracomment>rsTapeHint</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Copy Tape</source>
+            <extracomment>rsTapeCopy</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>value</source>
+            <extracomment>rsDisplayAccName</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>The value being entered or the last result</source>
+            <extracomment>rsDisplayAccDescription</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>memory</source>
+            <extracomment>rsMemoryAccName</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>The value held in memory</source>
+            <extracomment>rsMemoryAccDescription</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>decimal places</source>
+            <extracomment>rsDecimalsAccName</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>How many decimal places the value shows</source>
+            <extracomment>rsDecimalsAccDescription</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>number base</source>
+            <extracomment>rsBaseAccName</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>bit length</source>
+            <extracomment>rsBitsAccName</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Every number and operation so far, newest last</source>
+            <extracomment>rsTapeAccDescription</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>zero</source>
+            <extracomment>ZeroBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Enters the digit 0</source>
+            <extracomment>ZeroBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>one</source>
+            <extracomment>OneBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Enters the digit 1</source>
+            <extracomment>OneBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>two</source>
+            <extracomment>TwoBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Enters the digit 2</source>
+            <extracomment>TwoBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>three</source>
+            <extracomment>ThreeBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Enters the digit 3</source>
+            <extracomment>ThreeBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>four</source>
+            <extracomment>FourBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Enters the digit 4</source>
+            <extracomment>FourBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>five</source>
+            <extracomment>FiveBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Enters the digit 5</source>
+            <extracomment>FiveBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>six</source>
+            <extracomment>SixBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Enters the digit 6</source>
+            <extracomment>SixBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>seven</source>
+            <extracomment>SevenBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Enters the digit 7</source>
+            <extracomment>SevenBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>eight</source>
+            <extracomment>EightBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Enters the digit 8</source>
+            <extracomment>EightBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>nine</source>
+            <extracomment>NineBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Enters the digit 9</source>
+            <extracomment>NineBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>decimal point</source>
+            <extracomment>PointBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Starts the decimals of the number</source>
+            <extracomment>PointBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>plus</source>
+            <extracomment>AddBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Adds the next number</source>
+            <extracomment>AddBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>minus</source>
+            <extracomment>SubtractBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Subtracts the next number</source>
+            <extracomment>SubtractBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>times</source>
+            <extracomment>MultiplyBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Multiplies by the next number</source>
+            <extracomment>MultiplyBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>divided by</source>
+            <extracomment>DivideBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Divides by the next number</source>
+            <extracomment>DivideBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>equals</source>
+            <extracomment>EqualsBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Completes the calculation and shows the result</source>
+            <extracomment>EqualsBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>open bracket</source>
+            <extracomment>LeftBracketBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Opens a bracket</source>
+            <extracomment>LeftBracketBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>close bracket</source>
+            <extracomment>RightBracketBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Closes the bracket and calculates its contents</source>
+            <extracomment>RightBracketBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>all clear</source>
+            <extracomment>AllClearBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Clears the calculation and the tape; the memory is kept</source>
+            <extracomment>AllClearBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>clear entry</source>
+            <extracomment>ClearBtn name, ClearBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Clears the value being entered</source>
+            <extracomment>ClearBtn description, ClearBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>backspace</source>
+            <extracomment>BackSpaceBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Deletes the last digit entered</source>
+            <extracomment>BackSpaceBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>memory clear</source>
+            <extracomment>MemoryClearBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Sets the memory to zero</source>
+            <extracomment>MemoryClearBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>memory recall</source>
+            <extracomment>MemoryRecallBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Shows the value held in memory</source>
+            <extracomment>MemoryRecallBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>memory add</source>
+            <extracomment>MemoryAddBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Adds the value to the memory</source>
+            <extracomment>MemoryAddBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>memory subtract</source>
+            <extracomment>MemorySubtractBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Subtracts the value from the memory</source>
+            <extracomment>MemorySubtractBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>OK</source>
+            <extracomment>ExitBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Closes the calculator and takes the result</source>
+            <extracomment>ExitBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>cancel</source>
+            <extracomment>CancelBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Closes the calculator without taking the result</source>
+            <extracomment>CancelBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>copy</source>
+            <extracomment>CopyBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Copies the value to the clipboard</source>
+            <extracomment>CopyBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>paste</source>
+            <extracomment>PasteBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Enters the number on the clipboard</source>
+            <extracomment>PasteBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>change sign</source>
+            <extracomment>ChangeSignBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Changes the sign of the value</source>
+            <extracomment>ChangeSignBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>power</source>
+            <extracomment>PowerBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Raises the value to the power of the next number; with inverse, takes that root</source>
+            <extracomment>PowerBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>pi</source>
+            <extracomment>PiBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Enters the constant pi</source>
+            <extracomment>PiBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Euler's number</source>
+            <extracomment>EBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Enters the constant e</source>
+            <extracomment>EBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>square</source>
+            <extracomment>SquareBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Squares the value</source>
+            <extracomment>SquareBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>square root</source>
+            <extracomment>SqRootBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Takes the square root of the value</source>
+            <extracomment>SqRootBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>reciprocal</source>
+            <extracomment>InvertBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Divides one by the value</source>
+            <extracomment>InvertBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>common logarithm</source>
+            <extracomment>LogBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Logarithm to base 10; with inverse, ten to the power of the value</source>
+            <extracomment>LogBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>natural logarithm</source>
+            <extracomment>LNBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Logarithm to base e; with inverse, e to the power of the value</source>
+            <extracomment>LNBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>binary logarithm</source>
+            <extracomment>Lg2btn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Logarithm to base 2; with inverse, two to the power of the value</source>
+            <extracomment>Lg2btn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>sine</source>
+            <extracomment>SinBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Sine of the value; with inverse the arcsine, with hyperbolic the hyperbolic sine</source>
+            <extracomment>SinBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>cosine</source>
+            <extracomment>CosBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Cosine of the value; with inverse the arccosine, with hyperbolic the hyperbolic cosine</source>
+            <extracomment>CosBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>tangent</source>
+            <extracomment>TanBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Tangent of the value; with inverse the arctangent, with hyperbolic the hyperbolic tangent</source>
+            <extracomment>TanBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>inverse</source>
+            <extracomment>InvBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Switches the next function to its inverse</source>
+            <extracomment>InvBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>hyperbolic</source>
+            <extracomment>HypBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Switches the next trigonometric function to its hyperbolic form</source>
+            <extracomment>HypBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>percent</source>
+            <extracomment>PercentBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Takes the value as a percentage</source>
+            <extracomment>PercentBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>angle unit</source>
+            <extracomment>RadBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Switches between degrees, radians and gradians</source>
+            <extracomment>RadBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>exponent</source>
+            <extracomment>ExpBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Starts the power of ten of the number</source>
+            <extracomment>ExpBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>hex digit A</source>
+            <extracomment>ABtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Enters the hexadecimal digit A</source>
+            <extracomment>ABtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>hex digit B</source>
+            <extracomment>BBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Enters the hexadecimal digit B</source>
+            <extracomment>BBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>hex digit C</source>
+            <extracomment>CBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Enters the hexadecimal digit C</source>
+            <extracomment>CBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>hex digit D</source>
+            <extracomment>DBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Enters the hexadecimal digit D</source>
+            <extracomment>DBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>hex digit E</source>
+            <extracomment>EBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Enters the hexadecimal digit E</source>
+            <extracomment>EBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>hex digit F</source>
+            <extracomment>FBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Enters the hexadecimal digit F</source>
+            <extracomment>FBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>modulo</source>
+            <extracomment>ModBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Remainder of the division by the next number</source>
+            <extracomment>ModBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>bitwise and</source>
+            <extracomment>ANDBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Bits set in both numbers</source>
+            <extracomment>ANDBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>bitwise or</source>
+            <extracomment>ORBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Bits set in either number</source>
+            <extracomment>ORBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>bitwise exclusive or</source>
+            <extracomment>XORBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Bits set in exactly one of the numbers</source>
+            <extracomment>XORBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>bitwise not and</source>
+            <extracomment>NANDBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Bits not set in both numbers</source>
+            <extracomment>NANDBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>bitwise not or</source>
+            <extracomment>NORBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Bits set in neither number</source>
+            <extracomment>NORBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>bitwise not exclusive or</source>
+            <extracomment>XNORBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Bits equal in both numbers</source>
+            <extracomment>XNORBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>bitwise not</source>
+            <extracomment>NotBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Inverts every bit of the value</source>
+            <extracomment>NotBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>negate</source>
+            <extracomment>NEGBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Changes the sign of the value (two's complement)</source>
+            <extracomment>NEGBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>shift left</source>
+            <extracomment>SHLBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Shifts the bits one place to the left</source>
+            <extracomment>SHLBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>shift right</source>
+            <extracomment>SHRBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Shifts the bits one place to the right</source>
+            <extracomment>SHRBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>rotate left</source>
+            <extracomment>ROLBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Rotates the bits one place to the left</source>
+            <extracomment>ROLBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>rotate right</source>
+            <extracomment>RORBtn name</extracomment>
+            <translation type="unfinished"/>
+        </message>
+        <message>
+            <source>Rotates the bits one place to the right</source>
+            <extracomment>RORBtn description</extracomment>
+            <translation type="unfinished"/>
+        </message>
+    </context>
 </TS>

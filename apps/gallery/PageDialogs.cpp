@@ -1,6 +1,7 @@
 // The calculator dialogs: buttons that open each one through its component, with the result
 // shown beside them. The screenshot run writes the standard, small, scientific (also with Inv
-// and Hyp on) and programmer's calculators (also -1 in 64-bit binary).
+// and Hyp on) and programmer's calculators (also -1 in 64-bit binary), and the scientific and
+// programmer's ones with their tape open.
 #include "GalleryPages.h"
 #include "QORKITCalculator.h"
 #include "QORKITProgCalculator.h"
@@ -93,6 +94,26 @@ QWidget* ProgMinusOneShot()
     return form;
 }
 
+// The scientific calculator with its tape open after a few calculations.
+TQORSciCalcForm* TapeShot()
+{
+    auto* form = new TQORSciCalcForm;
+    TQORCalcEngine& engine = form->GetCalcEngine();
+    engine.InputValue(1234.5L);
+    engine.DoAdd();
+    engine.InputValue(3);
+    engine.DoMultiply();
+    engine.InputValue(4);
+    engine.DoEquals();
+    engine.MemoryAdd();
+    engine.InputValue(30);
+    engine.DoSin();
+    engine.DoEquals();
+    form->RefreshDisplays();
+    form->SetShowTape(true);
+    return form;
+}
+
 std::vector<std::pair<QString, QWidget*>> DialogShots()
 {
     auto* prog = new TQORProgCalcForm;
@@ -103,6 +124,15 @@ std::vector<std::pair<QString, QWidget*>> DialogShots()
     engine.InputValue(0x5AC3);
     engine.SetMemory(0xFF);
     prog->RefreshDisplays();
+    auto* progTape = new TQORProgCalcForm;
+    IQORProgCalcEngine& tapeEngine = progTape->GetCalcEngine();
+    tapeEngine.SetBaseDisplay(bdHexadecimal);
+    tapeEngine.InputValue(0x5AC3);
+    tapeEngine.DoXor();
+    tapeEngine.InputValue(0xFF);
+    tapeEngine.DoEquals();
+    progTape->RefreshDisplays();
+    progTape->SetShowTape(true);
     return {
         {QStringLiteral("dialog-calculator.png"), FloatShot<TQORCalcForm>(false)},
         {QStringLiteral("dialog-small-calculator.png"), FloatShot<TQORCalcForm>(true)},
@@ -110,6 +140,8 @@ std::vector<std::pair<QString, QWidget*>> DialogShots()
         {QStringLiteral("dialog-sci-calculator-inv-hyp.png"), SciInvHypShot()},
         {QStringLiteral("dialog-prog-calculator-binary.png"), prog},
         {QStringLiteral("dialog-prog-calculator-binary-minus-one.png"), ProgMinusOneShot()},
+        {QStringLiteral("dialog-sci-calculator-tape.png"), TapeShot()},
+        {QStringLiteral("dialog-prog-calculator-tape.png"), progTape},
     };
 }
 

@@ -28,7 +28,17 @@ bool Save(QWidget* widget, const QDir& dir, const QString& name)
     return ok;
 }
 
-int Screenshots(const QString& path)
+// Switches texts and number formats to a locale.
+void UseLocale(const QLocale& locale)
+{
+    QLocale::setDefault(locale);
+    qorkit::LoadTranslation(locale);
+    qorkit::SyncFormatSettingsFromLocale(locale);
+}
+
+// Writes every page (and its dialogs); then, unless a locale was chosen, the dialogs once more
+// in German ("dialog-sci-calculator-de.png"), to check that translated captions fit.
+int Screenshots(const QString& path, bool germanPass)
 {
     QDir dir;
     if (!dir.mkpath(path)) {
@@ -44,6 +54,19 @@ int Screenshots(const QString& path)
         if (page.Shots) {
             for (auto& [name, shot] : page.Shots()) {
                 ok = Save(shot, dir, name) && ok;
+                delete shot;
+            }
+        }
+    }
+    if (germanPass) {
+        UseLocale(QLocale(QLocale::German, QLocale::Germany));
+        for (const auto& page : gallery::AllPages()) {
+            if (!page.Shots)
+                continue;
+            for (auto& [name, shot] : page.Shots()) {
+                ok = Save(shot, dir,
+                          QString(name).replace(QStringLiteral(".png"), QStringLiteral("-de.png")))
+                    && ok;
                 delete shot;
             }
         }
@@ -70,20 +93,22 @@ int main(int argc, char** argv)
                                   QStringLiteral("Render every page to PNG files in DIR and exit."),
                                   QStringLiteral("DIR"));
     parser.addOption(screenshot);
-    QCommandLineOption locale(QStringLiteral("locale"),
-                              QStringLiteral("Number formats of the named locale, e.g. de_DE."),
-                              QStringLiteral("NAME"));
+    QCommandLineOption locale(
+        QStringLiteral("locale"),
+        QStringLiteral("Texts and number formats of the named locale, e.g. de_DE."),
+        QStringLiteral("NAME"));
     parser.addOption(locale);
     parser.process(app);
 
-    // Texts go through Qt's translators; number formats follow the chosen locale (the C
-    // locale's "." and "," unless one is named).
+    // Texts go through Qt's translators: the library's own translation of the chosen locale
+    // (English when none is named); number formats follow that locale (the C locale's "." and
+    // "," unless one is named).
     qorkit::InstallQtTranslationHook();
     if (parser.isSet(locale))
-        qorkit::SyncFormatSettingsFromLocale(QLocale(parser.value(locale)));
+        UseLocale(QLocale(parser.value(locale)));
 
     if (parser.isSet(screenshot))
-        return Screenshots(parser.value(screenshot));
+        return Screenshots(parser.value(screenshot), !parser.isSet(locale));
 
     QTabWidget window;
     window.setWindowTitle(QStringLiteral("qorkit gallery"));

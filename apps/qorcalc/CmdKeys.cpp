@@ -1,6 +1,8 @@
 // qorcalc keys: replays key names into a calculator engine and shows the display after each
-// key and the paper tape at the end.
+// key and the paper tape at the end (as the engine wrote it, or with --tape as the tape export
+// writes it: operators and numbers in columns, or only the tape as CSV with --csv).
 #include "QORKITCalcEngine.h"
+#include "QORKITTape.h"
 #include "QorcalcCommands.h"
 
 #include <iomanip>
@@ -55,6 +57,8 @@ int RunKeys(const std::vector<std::string>& arguments, std::ostream& out, std::o
     engine.SetPrecedence(!qorcalc::TakeFlag(args, "--no-precedence"));
     engine.SetOperatorSameLine(qorcalc::TakeFlag(args, "--same-line"));
     engine.SetBinaryPercent(!qorcalc::TakeFlag(args, "--unary-percent"));
+    const bool csv = qorcalc::TakeFlag(args, "--csv");
+    const bool tape = qorcalc::TakeFlag(args, "--tape") || csv;
     qorcalc::ApplyEngineOptions(args, engine);
     qorcalc::EndOptions(args);
     std::vector<std::string> keys;
@@ -77,11 +81,18 @@ int RunKeys(const std::vector<std::string>& arguments, std::ostream& out, std::o
             err << "qorcalc keys: unknown key '" << key << "' (qorcalc keys --list names them)\n";
             return 2;
         }
-        out << std::left << std::setw(9) << key << engine.GetDisplayStr() << '\n';
+        if (!csv) // CSV alone, for spreadsheets and pipes
+            out << std::left << std::setw(9) << key << engine.GetDisplayStr() << '\n';
     }
-    out << "tape:\n";
-    for (const auto& line : engine.GetHistory())
-        out << "  " << line << '\n';
+    if (!csv)
+        out << "tape:\n";
+    if (tape) {
+        const auto rows = qorkit::ReadTape(engine.GetHistory());
+        out << (csv ? qorkit::TapeToCsv(rows) : qorkit::TapeToText(rows));
+    } else {
+        for (const auto& line : engine.GetHistory())
+            out << "  " << line << '\n';
+    }
     if (!engine.GetLastError().empty()) {
         err << engine.GetLastError() << '\n';
         return 1;
@@ -92,10 +103,11 @@ int RunKeys(const std::vector<std::string>& arguments, std::ostream& out, std::o
 const bool registered = qorcalc::RegisterCommand(
     {"keys",
      "[--deg|--rad|--grad] [--decimals N] [--prefix] [--no-precedence] [--same-line] "
-     "[--unary-percent] KEYS... | --list"
+     "[--unary-percent] [--tape [--csv]] KEYS... | --list"
          + KeyNames(),
      "replay calculator keys such as \"2 + 3 * 4 =\" or \"30 sin\", showing the display after "
-     "each key and the paper tape at the end",
+     "each key and the paper tape at the end (--tape: operators and numbers in columns, --csv: "
+     "as CSV)",
      RunKeys});
 
 } // namespace

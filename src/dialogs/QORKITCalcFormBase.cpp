@@ -1,12 +1,17 @@
 #include "QORKITCalcFormBase.h"
 
 #include "QORKITSettings.h"
+#include "QORKITTapeModel.h"
+#include "QORKIT_RS_Dialogs.h"
 
+#include <QAccessible>
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <QKeyEvent>
+#include <QListView>
 #include <QMimeData>
 #include <QScreen>
 #include <QStyle>
@@ -15,6 +20,7 @@
 #include <algorithm>
 #include <cctype>
 #include <cstring>
+#include <utility>
 
 namespace qorkit {
 
@@ -149,7 +155,8 @@ QToolButton* TQORCalcFormBase::NewKey(const TQORKeyLook& look)
 {
     auto* button = new QToolButton(KeyPanel);
     button->setObjectName(QString::fromLatin1(look.Name));
-    button->setFocusPolicy(Qt::NoFocus);
+    // Keys take the focus from Tab only (a click leaves it where typing goes on working).
+    button->setFocusPolicy(Qt::TabFocus);
     button->setAutoRaise(flat_);
     button->setToolButtonStyle(look.Glyph >= 0 ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextOnly);
     if (look.Text != nullptr)
@@ -218,6 +225,11 @@ void TQORCalcFormBase::UpdateLanguage()
     defaultTitle_ = ToQ(rsCalculator());
     if (ownTitle)
         setWindowTitle(defaultTitle_);
+    if (TapeView != nullptr) {
+        TapeView->setToolTip(ToQ(rsTapeHint()));
+        for (auto* action : TapeView->actions())
+            action->setText(ToQ(rsTapeCopy()));
+    }
     for (const auto& key : keyTexts_) {
         if (key.Look.Caption != nullptr)
             key.Button->setText(ToQ(key.Look.Caption()));
@@ -226,6 +238,21 @@ void TQORCalcFormBase::UpdateLanguage()
     }
     ValueDisplay->setToolTip(ToQ(rsValueHint()));
     MemoryDisplay->setToolTip(ToQ(rsMemoryHint()));
+    for (const auto& key : keyTexts_) {
+        const std::string name = key.Button->objectName().toStdString();
+        key.Button->setAccessibleName(ToQ(KeyAccessibleName(name, ProgrammersKeys())));
+        key.Button->setAccessibleDescription(
+            ToQ(KeyAccessibleDescription(name, ProgrammersKeys())));
+    }
+    ValueDisplay->setAccessibleName(ToQ(rsDisplayAccName()));
+    ValueDisplay->setAccessibleDescription(ToQ(rsDisplayAccDescription()));
+    MemoryDisplay->setAccessibleName(ToQ(rsMemoryAccName()));
+    MemoryDisplay->setAccessibleDescription(ToQ(rsMemoryAccDescription()));
+    KeyPanel->setAccessibleName(ToQ(rsCalculator()));
+    if (TapeView != nullptr) {
+        TapeView->setAccessibleName(ToQ(rsTapeHint()));
+        TapeView->setAccessibleDescription(ToQ(rsTapeAccDescription()));
+    }
     FitKeyCaptions();
 }
 
@@ -277,6 +304,46 @@ void TQORCalcFormBase::changeEvent(QEvent* event)
         FitKeyCaptions();
 }
 
+void TQORCalcFormBase::SetPanelText(TQORBasePanel* panel, const QString& text, bool fitted)
+{
+    if (DisplayText(panel) == text)
+        return;
+    if (fitted)
+        ShowFitted(panel, text); // may break the text into lines and shrink its font
+    else
+        panel->setText(text);
+    QAccessibleValueChangeEvent event(panel, text);
+    QAccessible::updateAccessibility(&event);
+}
+
+void TQORCalcFormBase::UpdateTabOrder()
+{
+    // Everything Tab reaches, by where it is on the form: rows top to bottom (keys of a row
+    // share their top), left to right inside a row; the tape beside the keys comes last.
+    std::vector<QWidget*> chain;
+    for (auto* widget : findChildren<QWidget*>()) {
+        if ((widget->focusPolicy() & Qt::TabFocus) != 0 && !widget->isHidden()
+            && widget != TapeView)
+            chain.push_back(widget);
+    }
+    // A control's inner editor (a spin edit's line edit) goes with its control.
+    std::erase_if(chain, [&chain](QWidget* widget) {
+        return std::any_of(chain.begin(), chain.end(), [widget](QWidget* other) {
+            return other->focusProxy() == widget && other->isAncestorOf(widget);
+        });
+    });
+    const auto place = [this](QWidget* widget) {
+        const QPoint topLeft = widget->mapTo(this, QPoint(0, 0));
+        return std::pair(topLeft.y(), topLeft.x());
+    };
+    std::stable_sort(chain.begin(), chain.end(),
+                     [&place](QWidget* a, QWidget* b) { return place(a) < place(b); });
+    if (TapeView != nullptr && !TapeView->isHidden())
+        chain.push_back(TapeView);
+    for (std::size_t i = 1; i < chain.size(); ++i)
+        setTabOrder(chain[i - 1], chain[i]);
+}
+
 void TQORCalcFormBase::PlaceKeys(std::span<const TQORKeyPlace> places, int rows)
 {
     const int w = geometry_.KeyWidth;
@@ -303,7 +370,55 @@ void TQORCalcFormBase::LayoutPanels(int rows, int extraHeight)
     ValueDisplay->setGeometry(5, 5, clientWidth - 10, PanelHeight);
     KeyPanel->move(5, d);
     MemoryDisplay->setGeometry(5, d + rows * h + 5, clientWidth - 10, PanelHeight);
-    setFixedSize(clientWidth, 2 * d + rows * h + 5 + extraHeight);
+    SetFormSize(clientWidth, 2 * d + rows * h + 5 + extraHeight);
+}
+
+void TQORCalcFormBase::SetFormSize(int width, int height)
+{
+    formWidth_ = width;
+    formHeight_ = height;
+    const bool tape = showTape_ && TapeView != nullptr;
+    if (tape)
+        TapeView->setGeometry(width, 5, TapeWidth, height - 10);
+    setFixedSize(width + (tape ? TapeWidth + 5 : 0), height);
+}
+
+void TQORCalcFormBase::SetTapeModel(TQORTapeModel* model)
+{
+    tapeModel_ = model;
+    TapeView = new QListView(this);
+    TapeView->setObjectName(QStringLiteral("TapeView"));
+    TapeView->setModel(model);
+    TapeView->setUniformItemSizes(true);
+    TapeView->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    TapeView->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    TapeView->setFocusPolicy(Qt::StrongFocus);
+    TapeView->setToolTip(ToQ(rsTapeHint()));
+    TapeView->setAccessibleName(ToQ(rsTapeHint()));
+    TapeView->setAccessibleDescription(ToQ(rsTapeAccDescription()));
+    TapeView->hide();
+    auto* copy = new QAction(ToQ(rsTapeCopy()), TapeView);
+    copy->setObjectName(QStringLiteral("TapeCopyAction"));
+    connect(copy, &QAction::triggered, model, [model] { model->CopyToClipboard(); });
+    TapeView->addAction(copy);
+    TapeView->setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(model, &QAbstractItemModel::rowsInserted, TapeView,
+            [view = TapeView] { view->scrollToBottom(); });
+    // Keys typed while the tape has the focus still reach the calculator.
+    TapeView->installEventFilter(this);
+}
+
+void TQORCalcFormBase::SetShowTape(bool value)
+{
+    if (TapeView == nullptr || value == showTape_)
+        return;
+    showTape_ = value;
+    TapeView->setVisible(value);
+    UpdateTabOrder();
+    if (formWidth_ > 0)
+        SetFormSize(formWidth_, formHeight_);
+    if (value)
+        TapeView->scrollToBottom();
 }
 
 void TQORCalcFormBase::InstallKeyPreview()
@@ -543,6 +658,11 @@ void TQORCalcFormBase::MoveTo(int left, int top)
 
 void TQORCalcFormBase::showEvent(QShowEvent* event)
 {
+    UpdateTabOrder();
+    // Typing starts on the keys whatever comes first in the tab order (the lists above the
+    // programmer's keys).
+    if (focusWidget() == nullptr)
+        KeyPanel->setFocus(Qt::OtherFocusReason);
     if (!placed_) {
         placed_ = true;
         QPoint topLeft = pos();
@@ -778,6 +898,14 @@ void TQORCalcComponent::TransferStore(bool save)
     store->CloseStorage();
 }
 
+void TQORCalcComponent::SetShowTape(bool value)
+{
+    if (value == showTape_)
+        return;
+    showTape_ = value;
+    Q_EMIT showTapeChanged(value);
+}
+
 bool TQORCalcComponent::RunDialog()
 {
     std::unique_ptr<TQORCalcFormBase> form = CreateForm();
@@ -790,6 +918,7 @@ bool TQORCalcComponent::RunDialog()
         form->Place(position_);
     }
     form->SetStayOnTop(stayOnTop_);
+    form->SetShowTape(showTape_);
     form->setWindowTitle(title_);
     SetUpForm(*form);
     form->SetDispFontName(dispFont_);

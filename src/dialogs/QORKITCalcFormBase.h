@@ -36,9 +36,12 @@
 #include <string>
 #include <vector>
 
+class QListView;
 class QSpinBox;
 
 namespace qorkit {
+
+class TQORTapeModel;
 
 // Fixed version text of the calculator components.
 inline constexpr char QORCalcVersion[] = "qorkit calculators 0.1.0";
@@ -162,6 +165,16 @@ public:
     void Place(TQORFormPosition position);
     void MoveTo(int left, int top);
 
+    // The paper tape beside the keys. Off by default, and then the form keeps its size; on, the
+    // form grows to the right by the tape's width (TapeWidth) and shows the engine's tape,
+    // scrolled to the newest line. The view's context menu copies the tape (text and CSV).
+    static constexpr int TapeWidth = 170;
+    QListView* TapeView = nullptr;
+    bool GetShowTape() const { return showTape_; }
+    void SetShowTape(bool value);
+    // The engine's tape as a model; null on a form without one.
+    TQORTapeModel* GetTapeModel() const { return tapeModel_; }
+
     // Help context of the form (0: none), from the process-wide help-context settings.
     int GetHelpContext() const { return helpContext_; }
     void SetHelpContext(int value) { helpContext_ = value; }
@@ -169,6 +182,9 @@ public:
     // Sets a text key's caption, in a smaller font when the form's font would not fit it
     // into the key (see FitKeyCaption).
     void SetKeyText(QToolButton* key, const QString& text);
+    // Tab order in reading order: the controls and keys row by row, left to right, the tape
+    // last. Done when the form is shown; keys are reached with Tab and pressed with Space.
+    void UpdateTabOrder();
     // The engine's last error text.
     virtual std::string GetLastError() const = 0;
 
@@ -223,6 +239,15 @@ protected:
     // The float calculators' frame: value panel at the top, the key grid, the memory panel
     // below, both panels as wide as the form less the margins; `extraHeight` is added.
     void LayoutPanels(int rows, int extraHeight = 0);
+    // Whether the keys are the programmer's (their accessible texts differ: "EBtn" is a digit).
+    virtual bool ProgrammersKeys() const { return false; }
+    // Shows `text` on a display panel; a change is announced to assistive technology.
+    void SetPanelText(TQORBasePanel* panel, const QString& text, bool fitted = false);
+    // The form's size without the tape (the tape adds its width when shown).
+    void SetFormSize(int width, int height);
+    // Gives the form its tape (made after the engine's own handlers are set); the view stays
+    // hidden until SetShowTape(true).
+    void SetTapeModel(TQORTapeModel* model);
     // Sets up the keyboard preview on the form and every child it has by now.
     void InstallKeyPreview();
 
@@ -263,6 +288,10 @@ private:
     QString defaultTitle_; // the caption UpdateLanguage gave
     QFont displayFont_; // of both panels, before any fitting
     std::vector<std::pair<TQORBasePanel*, QString>> fittedTexts_;
+    TQORTapeModel* tapeModel_ = nullptr;
+    int formWidth_ = 0;
+    int formHeight_ = 0;
+    bool showTape_ = false;
     bool cancelled_ = false;
     bool flat_ = false;
     bool stayOnTop_ = false;
@@ -399,6 +428,7 @@ class TQORCalcComponent : public QObject, public IQORNotifyClient {
     Q_PROPERTY(qorkit::TQORRegIniType RegIni READ GetRegIni WRITE SetRegIni NOTIFY regIniChanged
                    STORED false)
     Q_PROPERTY(bool FlatSpin READ GetFlatSpin WRITE SetFlatSpin NOTIFY flatSpinChanged STORED false)
+    Q_PROPERTY(bool ShowTape READ GetShowTape WRITE SetShowTape NOTIFY showTapeChanged)
     Q_PROPERTY(QString LastError READ GetLastError STORED false)
 
 public:
@@ -468,6 +498,9 @@ public:
     {
         Store(stayOnTop_, value, &TQORCalcComponent::stayOnTopChanged);
     }
+    // Whether the dialog opens with its paper tape beside the keys (off: the usual size).
+    bool GetShowTape() const { return showTape_; }
+    void SetShowTape(bool value);
     // The fixed version text; writes are ignored (versionChanged is never emitted).
     QString GetVersion() const { return QString::fromLatin1(QORCalcVersion); }
     void SetVersion(const QString&) { }
@@ -519,6 +552,7 @@ Q_SIGNALS:
     void flatSpinChanged();
     // OnStartCalculator: the form is about to be shown.
     void startCalculator(qorkit::TQORCalcFormBase* form);
+    void showTapeChanged(bool showTape);
 
 protected:
     explicit TQORCalcComponent(QObject* owner);
@@ -573,6 +607,7 @@ private:
     QColor colorBackground_;
     QString exitHint_;
     TQORFormPosition position_ = poScreenCenter;
+    bool showTape_ = false;
     bool stayOnTop_ = false;
     bool flatSpin_ = false;
     std::vector<QPointer<QObject>> glyphClients_;

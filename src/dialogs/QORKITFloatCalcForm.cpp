@@ -1,6 +1,8 @@
 #include "QORKITFloatCalcForm.h"
 
 #include "QORKITSettings.h"
+#include "QORKITTapeModel.h"
+#include "QORKIT_RS_Dialogs.h"
 
 #include <QLineEdit>
 #include <QPalette>
@@ -130,9 +132,9 @@ TQORFloatCalcForm::TQORFloatCalcForm(QWidget* parent, TQORFormGeometry geometry)
     ApplyDispFont(QString::fromStdString(QORCalcDispFont));
     const TQORCalcEngineObject* front = engineObject_;
     connect(front, &TQORCalcEngineObject::displayChange, this,
-            [this] { ValueDisplay->setText(engineObject_->GetDisplayText()); });
+            [this] { SetPanelText(ValueDisplay, engineObject_->GetDisplayText()); });
     connect(front, &TQORCalcEngineObject::memoryChange, this,
-            [this] { MemoryDisplay->setText(engineObject_->GetMemoryText()); });
+            [this] { SetPanelText(MemoryDisplay, engineObject_->GetMemoryText()); });
     connect(front, &TQORCalcEngineObject::decimalPlacesChange, this, [this] {
         const QSignalBlocker quiet(DPSpin);
         DPSpin->setValue(engine_.GetDecimalPlaces());
@@ -140,6 +142,7 @@ TQORFloatCalcForm::TQORFloatCalcForm(QWidget* parent, TQORFormGeometry geometry)
     connect(front, &TQORCalcEngineObject::angleModeChange, this,
             [this] { SetKeyText(RadBtn, QString::fromStdString(engine_.GetAngleModeStr())); });
     connect(front, &TQORCalcEngineObject::togglesChange, this, &TQORFloatCalcForm::ShowToggles);
+    SetTapeModel(new TQORTapeModel(engine_, this));
 }
 
 std::span<const TQORCharKey> TQORFloatCalcForm::FloatChars() { return FloatCharKeys; }
@@ -183,6 +186,8 @@ void TQORFloatCalcForm::UpdateLanguage()
     TQORCalcFormBase::UpdateLanguage();
     DPSpin->setToolTip(QString::fromStdString(rsDecimalsHint()));
     SetKeyText(RadBtn, QString::fromStdString(engine_.GetAngleModeStr()));
+    DPSpin->setAccessibleName(QString::fromStdString(rsDecimalsAccName()));
+    DPSpin->setAccessibleDescription(QString::fromStdString(rsDecimalsAccDescription()));
     ShowToggles();
 }
 

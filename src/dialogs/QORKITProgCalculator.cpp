@@ -2,6 +2,8 @@
 
 #include "QORKITRegIni.h"
 #include "QORKITSettings.h"
+#include "QORKITTapeModel.h"
+#include "QORKIT_RS_Dialogs.h"
 
 #include <array>
 
@@ -199,18 +201,19 @@ TQORProgCalcForm::TQORProgCalcForm(QWidget* parent)
                            RowHeight);
     BitsCombo->setGeometry(keysLeft + keysWidth - ComboWidth, RowTop, ComboWidth, RowHeight);
     KeyPanel->move(keysLeft, KeysTop);
-    setFixedSize(ClientWidth, ClientHeight);
+    SetFormSize(ClientWidth, ClientHeight);
 
     // The size list is deliberately not told of size changes the engine makes by itself
     // (decimal forces 64 bits): it keeps showing the size the user chose.
     const TQORProgCalcEngineObject* front = engineObject_;
     connect(front, &TQORProgCalcEngineObject::displayChange, this,
-            [this] { ShowFitted(ValueDisplay, engineObject_->GetDisplayText()); });
+            [this] { SetPanelText(ValueDisplay, engineObject_->GetDisplayText(), true); });
     connect(front, &TQORProgCalcEngineObject::memoryChange, this,
-            [this] { ShowFitted(MemoryDisplay, engineObject_->GetMemoryText()); });
+            [this] { SetPanelText(MemoryDisplay, engineObject_->GetMemoryText(), true); });
     connect(front, &TQORProgCalcEngineObject::baseDisplayChange, this,
             &TQORProgCalcForm::EnableDigits);
     ShowFitted(ValueDisplay, ToQ(engine_.GetDisplayStr()));
+    SetTapeModel(new TQORTapeModel(engine_, this));
     InstallKeyPreview();
 }
 
@@ -236,6 +239,10 @@ void TQORProgCalcForm::UpdateLanguage()
     LoadLists();
     BaseCombo->setToolTip(ToQ(rsBaseHint()));
     BitsCombo->setToolTip(ToQ(rsBitsHint()));
+    BaseCombo->setAccessibleName(ToQ(rsBaseAccName()));
+    BaseCombo->setAccessibleDescription(ToQ(rsBaseHint()));
+    BitsCombo->setAccessibleName(ToQ(rsBitsAccName()));
+    BitsCombo->setAccessibleDescription(ToQ(rsBitsHint()));
 }
 
 std::vector<std::span<const TQORCharKey>> TQORProgCalcForm::CharKeys() const

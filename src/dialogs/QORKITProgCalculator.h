@@ -55,6 +55,7 @@ public:
     void EnableDigits();
     void UpdateLanguage() override;
     void DeleteKey() override { engine_.ClearDisplay(); }
+    bool ProgrammersKeys() const override { return true; }
 
 protected:
     std::vector<std::span<const TQORCharKey>> CharKeys() const override;

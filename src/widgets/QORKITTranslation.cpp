@@ -4,20 +4,53 @@
 #include "QORKITImperial.h"
 #include "QORKITSettings.h"
 #include "QORKIT_RS_Calc.h"
+#include "QORKIT_RS_Dialogs.h"
 #include "QORKIT_RS_UC.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QPointer>
 #include <QString>
+#include <QTranslator>
 #include <QXmlStreamWriter>
 
 #include <array>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
+
+// The translations live in a static library: their resources are registered by hand, from the
+// global namespace.
+static void InitTranslationResources()
+{
+    static const bool done = [] {
+        Q_INIT_RESOURCE(qorkit_translations);
+        return true;
+    }();
+    (void)done;
+}
 
 namespace qorkit {
 
 namespace {
+
+// Where LoadTranslation() looks for qorkit_<language>.qm, in order.
+QStringList TranslationDirs()
+{
+    QStringList dirs {QStringLiteral(":/qorkit/i18n"), QStringLiteral(QORKIT_INSTALL_TRANSLATIONS)};
+    if (QCoreApplication::instance() != nullptr)
+        dirs << QDir(QCoreApplication::applicationDirPath())
+                    .filePath(QStringLiteral("translations"));
+    return dirs;
+}
+
+// The translator LoadTranslation() installed last.
+QPointer<QTranslator>& CurrentTranslator()
+{
+    static QPointer<QTranslator> translator;
+    return translator;
+}
 
 QString FromUtf8(std::string_view text)
 {
@@ -83,6 +116,26 @@ void InstallQtTranslationHook()
     });
 }
 
+bool LoadTranslation(const QLocale& locale)
+{
+    InitTranslationResources();
+    InstallQtTranslationHook();
+    if (auto& current = CurrentTranslator(); current) {
+        QCoreApplication::removeTranslator(current);
+        delete current;
+    }
+    auto translator = std::make_unique<QTranslator>(QCoreApplication::instance());
+    for (const auto& dir : TranslationDirs()) {
+        if (translator->load(locale, QStringLiteral("qorkit"), QStringLiteral("_"), dir)) {
+            if (!QCoreApplication::installTranslator(translator.get()))
+                return false;
+            CurrentTranslator() = translator.release();
+            return true;
+        }
+    }
+    return false;
+}
+
 void SyncFormatSettingsFromLocale(const QLocale& locale)
 {
     const char decimal = SeparatorChar(locale.decimalPoint(), '.');
@@ -101,12 +154,13 @@ void SyncFormatSettingsFromLocale(const QLocale& locale)
 std::span<const TTextModule> TextModules()
 {
     // The contexts are those the modules pass to LoadResString.
-    static const std::array<TTextModule, 5> modules {{
+    static const std::array<TTextModule, 6> modules {{
         {"QORKIT_Base", BaseTexts()},
         {"QORKIT_RS_Calc", CalcTexts()},
         {UCTextContext, UCTexts()},
         {"QORKITImperial", ImperialTexts()},
         {"QORKITFloatEdit", FloatEditTexts()},
+        {DialogTextContext, DialogTexts()},
     }};
     return modules;
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "QORKITResource.h"
+#include "qorkit_widgets_export.h"
 
 #include <QByteArray>
 #include <QLocale>
@@ -16,9 +17,20 @@ namespace qorkit {
 // Routes every resource-string lookup through QCoreApplication::translate(context, source),
 // so translators installed with QCoreApplication::installTranslator() translate the library.
 // The contexts are the text modules ("QORKIT_Base", "QORKIT_RS_Calc", "QORKIT_RS_UC") and the
-// modules that keep texts of their own ("QORKITImperial", "QORKITFloatEdit"); see TextModules().
+// modules that keep texts of their own ("QORKITImperial", "QORKITFloatEdit", "QORKIT_RS_Dialogs");
+// see TextModules().
 // SetTranslationHook({}) returns to the built-in English texts.
 void InstallQtTranslationHook();
+
+// Installs the library's own translation for a locale in one call: a QTranslator holding
+// qorkit_<language>.qm (for de_DE: qorkit_de_DE.qm, else qorkit_de.qm), looked up in the
+// translations built into the library (":/qorkit/i18n"), then in the install directory
+// (<prefix>/share/qorkit/translations), then in "translations" beside the application. It also
+// installs the translation hook. A translation loaded by an earlier call is removed first, so
+// switching languages works; English needs no file and gives false. Number formats are not
+// touched: call SyncFormatSettingsFromLocale() for those. Needs a QCoreApplication.
+//   qorkit::LoadTranslation(QLocale(QStringLiteral("de_DE")));
+QORKIT_WIDGETS_EXPORT bool LoadTranslation(const QLocale& locale = QLocale());
 
 // Copies the decimal and thousands separators and the currency symbol of a locale into the
 // process-wide FormatSettings. The separators are single 8-bit characters, so a locale whose

@@ -15,6 +15,7 @@
 #include "QORKITRegIni.h"
 #include "QORKITSciCalculator.h"
 #include "QORKITStoreCtrl.h"
+#include "QORKITTapeModel.h"
 
 #include <QDirIterator>
 #include <QFile>
@@ -55,6 +56,7 @@ const QMetaObject* const LibraryClasses[] = {&TQOREditColorSet::staticMetaObject
                                              &TQORCalcEngineObject::staticMetaObject,
                                              &TQORProgCalcEngineObject::staticMetaObject,
                                              &TQORCalcSettingsEvents::staticMetaObject,
+                                             &TQORTapeModel::staticMetaObject,
                                              &TQORBaseConvertor::staticMetaObject,
 #define QORKIT_SURVEY_CONVERTOR(convertor, type, key) &convertor::staticMetaObject,
                                              QORKIT_CONVERTOR_LIST(QORKIT_SURVEY_CONVERTOR)
