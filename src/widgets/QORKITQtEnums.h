@@ -115,4 +115,42 @@ enum TQORFormPosition : std::uint8_t {
 };
 Q_ENUM_NS(TQORFormPosition)
 
+// Where a currency edit takes its currency symbol and symbol positions from.
+enum TQORCurrencyFormatType : std::uint8_t {
+    cftRegional = 0, // the process-wide format settings (symbol and positions)
+    cftLocale = 1, // the symbol of the edit's QLocale, the positions of the format settings
+    cftCustom = 2, // the edit's own CurrencyStr, CurrencyFormat and NegativeFormat
+};
+Q_ENUM_NS(TQORCurrencyFormatType)
+
+// Position of the currency symbol in a positive amount ("$" stands for the symbol).
+enum TCurrencyFormatType : std::uint8_t {
+    cfSymbolNumber = 0, // $1
+    cfNumberSymbol = 1, // 1$
+    cfSymbolSpaceNumber = 2, // $ 1
+    cfNumberSpaceSymbol = 3, // 1 $
+};
+Q_ENUM_NS(TCurrencyFormatType)
+
+// Position of the symbol and the sign in a negative amount.
+enum TNegativeFormatType : std::uint8_t {
+    nfParenSymbolNumber = 0, // ($1)
+    nfMinusSymbolNumber = 1, // -$1
+    nfSymbolMinusNumber = 2, // $-1
+    nfSymbolNumberMinus = 3, // $1-
+    nfParenNumberSymbol = 4, // (1$)
+    nfMinusNumberSymbol = 5, // -1$
+    nfNumberMinusSymbol = 6, // 1-$
+    nfNumberSymbolMinus = 7, // 1$-
+    nfMinusNumberSpaceSymbol = 8, // -1 $
+    nfMinusSymbolSpaceNumber = 9, // -$ 1
+    nfNumberSpaceSymbolMinus = 10, // 1 $-
+    nfSymbolSpaceNumberMinus = 11, // $ 1-
+    nfSymbolSpaceMinusNumber = 12, // $ -1
+    nfNumberMinusSpaceSymbol = 13, // 1- $
+    nfParenSymbolSpaceNumber = 14, // ($ 1)
+    nfParenNumberSpaceSymbol = 15, // (1 $)
+};
+Q_ENUM_NS(TNegativeFormatType)
+
 } // namespace qorkit
