@@ -369,6 +369,13 @@ void TQORCalcEditBase::resizeEvent(QResizeEvent* event)
     }
 }
 
+void TQORCalcEditBase::showEvent(QShowEvent* event)
+{
+    // A hidden control hears of no resize: lay out what it was given meanwhile.
+    LayoutChildren();
+    QWidget::showEvent(event);
+}
+
 void TQORCalcEditBase::LayoutChildren()
 {
     if (edit_ == nullptr)
