@@ -475,7 +475,6 @@ void TQORBaseCurrEdit::DoThousands()
     const TQORSeparatorScope separators(true, DecimalChar(), ThousandChar());
     const QString before = text();
     const int caret = cursorPosition();
-    const qsizetype oldLength = before.size();
     QString s = ToQ(StripThousandSeparators(before.toStdString()));
     const char thousands = FormatSettings.ThousandSeparator;
     if (showThousandSeparators_ && thousands != '\0') {
@@ -495,10 +494,18 @@ void TQORBaseCurrEdit::DoThousands()
         }
     }
     if (s != before) {
+        // The caret stays after the same character the user typed: count what precedes it
+        // without the grouping characters, which are all that changed.
+        const QChar sep = QLatin1Char(thousands);
+        const qsizetype kept = before.left(caret).size() - before.left(caret).count(sep);
+        qsizetype newCaret = 0;
+        for (qsizetype seen = 0; newCaret < s.size() && seen < kept; ++newCaret) {
+            if (s[newCaret] != sep)
+                ++seen;
+        }
         setText(s);
         setModified(true);
-        setCursorPosition(std::clamp(caret + static_cast<int>(s.size() - oldLength), 0,
-                                     static_cast<int>(s.size())));
+        setCursorPosition(static_cast<int>(newCaret));
     }
     deselect();
     grouping_ = false;
