@@ -243,7 +243,9 @@ public:
     bool Modified() const { return edit_->isModified(); }
     void SetModified(bool value) { edit_->setModified(value); }
 
-    // Events, raised with this control as the sender (and as the Qt signals below).
+    // Events, raised with this control as the sender (and as the Qt signals below). The inner
+    // edit's OnClick, OnDblClick, OnMouseDown, OnMouseUp, OnMouseMove, OnKeyUp (and key-down
+    // and key-press) events reach the handlers set here.
     void SetOnChange(TQORNotifyEvent e) { onChange_ = std::move(e); }
     const TQORNotifyEvent& GetOnChange() const { return onChange_; }
     void SetOnCalcClick(TQORNotifyEvent e) { onCalcClick_ = std::move(e); }
