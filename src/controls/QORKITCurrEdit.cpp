@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QSignalBlocker>
 #include <QValidator>
 
 #include <algorithm>
@@ -503,9 +504,17 @@ void TQORBaseCurrEdit::DoThousands()
             if (s[newCaret] != sep)
                 ++seen;
         }
-        setText(s);
-        setModified(true);
-        setCursorPosition(static_cast<int>(newCaret));
+        {
+            // Still the user's typing, not a text set from outside: the change is announced
+            // below, once the edit is marked modified again. (Replacing the text as an edit
+            // would leave an undo step that regroups itself again, so undo could never pass
+            // it.)
+            const QSignalBlocker quiet(this);
+            setText(s);
+            setModified(true);
+            setCursorPosition(static_cast<int>(newCaret));
+        }
+        Q_EMIT textChanged(s);
     }
     deselect();
     grouping_ = false;
