@@ -415,5 +415,29 @@ TEST_F(CalcEditSettings, InnerEditEventsComeFromTheComposite)
     EXPECT_EQ(signSpy.count(), 1);
 }
 
+TEST_F(CalcEditSettings, RefusedTextKeepsTheValueAndIsReportedOnceByTheComposite)
+{
+    window_.resize(220, 40);
+    edit_->setGeometry(0, 0, 200, edit_->sizeHint().height());
+    ASSERT_TRUE(test::ShowActive(window_));
+    edit_->GetFloatEdit()->SetBoundLower(0);
+    edit_->GetFloatEdit()->SetBoundUpper(10);
+    edit_->SetValue(5);
+    QStringList messages;
+    edit_->SetOnValidationError([&](QObject* sender, const QString& message) {
+        EXPECT_EQ(sender, edit_);
+        messages << message;
+    });
+    QSignalSpy reported(edit_, &TQORCalcEditBase::validationError);
+    edit_->setFocus(Qt::TabFocusReason);
+    edit_->SelectAll();
+    QTest::keyClicks(edit_->GetEdit(), QStringLiteral("50"));
+    QTest::keyClick(edit_->GetEdit(), Qt::Key_Return);
+    EXPECT_EQ(edit_->GetValue(), 5);
+    EXPECT_EQ(messages.size(), 1);
+    EXPECT_EQ(reported.count(), 1);
+    EXPECT_FALSE(edit_->GetText().contains(QStringLiteral("nan"), Qt::CaseInsensitive));
+}
+
 } // namespace
 } // namespace qorkit
