@@ -4,9 +4,10 @@
 // decimals and thousands grouping, in the symbol and sign positions of the currency formats
 // ("$1,234.50", "-$1,234.50", "($1,234.50)", "1.234,50 €" ...), and the user edits that very
 // text: digits are grouped again as they are typed, the caret staying after the digit just
-// typed, and Backspace/Delete next to a grouping character remove the digit beyond it. The
-// text is taken over when the user leaves the edit or presses Enter: the symbol is stripped,
-// the sign may stand in any of the format's positions (or as brackets), blank text is zero.
+// typed, and Backspace/Delete next to a grouping character remove the digit beyond it (a
+// regrouping starts the undo history afresh). The text is taken over when the user leaves the
+// edit or presses Enter: the symbol is stripped, the sign may stand in any of the format's
+// positions (or as brackets), blank text is zero.
 // Text that does not parse, or an amount outside BoundLower..BoundUpper (checked when
 // BoundLower < BoundUpper) or outside the range of the class's amount type, is refused: the
 // old value stays and OnValidationError is called once with the reason.
