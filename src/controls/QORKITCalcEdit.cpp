@@ -37,7 +37,9 @@ bool ExecuteStandardCalc(TQORFloatCalcComponent& calculator, bool centred, int l
 bool DisplayStandardCalc(const std::string& title, Extended& value, int left, int top,
                          std::uint8_t decimals, bool flat, QWidget* parent)
 {
-    return DisplayCalcChild<TQORCalcForm>(title, value, left, top, decimals, flat, parent);
+    if (left == -1 && top == -1)
+        return DisplayCalc(title, value, decimals, flat, parent);
+    return DisplayCalcPos(title, value, left, top, decimals, flat, parent);
 }
 
 } // namespace
@@ -576,6 +578,12 @@ void TQORCalcEditBase::SetUICtrl(TQORUICtrl* value)
 {
     Forward(this, edit_, &TQORBaseEdit::GetUICtrl, &TQORBaseEdit::SetUICtrl, value,
             &TQORCalcEditBase::uiCtrlChanged);
+}
+
+void TQORCalcEditBase::SetUIUsage(TQORUIUsage value)
+{
+    Forward(this, edit_, &TQORBaseEdit::GetUIUsage, &TQORBaseEdit::SetUIUsage, value,
+            &TQORCalcEditBase::uiUsageChanged);
 }
 
 // ---- TQORFloatCalcEdit -----------------------------------------------------------------------

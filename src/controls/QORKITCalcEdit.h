@@ -45,8 +45,8 @@ struct TQORCalcKind {
     // (ExecutePos), its form a child of `parent`'s window; true when accepted.
     bool (*Execute)(TQORFloatCalcComponent& calculator, bool centred, int left, int top,
                     QWidget* parent);
-    // Runs the dialog of the DisplayCalc functions at left/top (-1 and -1: centred) with the
-    // process-wide calculator settings; true when accepted, and then `value` holds the result.
+    // Runs the kind's DisplayCalc (left and top -1) or DisplayCalcPos function, the dialog a
+    // child of `parent`'s window; true when accepted, and then `value` holds the result.
     bool (*Display)(const std::string& title, Extended& value, int left, int top,
                     std::uint8_t decimals, bool flat, QWidget* parent);
 };
@@ -74,16 +74,6 @@ bool ExecuteCalcComponent(Component& calculator, bool centred, int left, int top
             start(sender, form);
     });
     return centred ? calculator.Execute() : calculator.ExecutePos(left, top);
-}
-
-// The run of the DisplayCalc functions (process-wide settings, the value entered as typed
-// text) on a Form that is a child of `parent`'s window; left/top -1 keep it centred.
-template<class Form>
-bool DisplayCalcChild(const std::string& title, Extended& value, int left, int top,
-                      std::uint8_t decimals, bool flat, QWidget* parent)
-{
-    Form form(parent != nullptr ? parent->window() : nullptr);
-    return RunFloatCalcDialog(form, title, value, left, top, decimals, flat);
 }
 
 // Before any calculator is shown: the handler may change the value handed to it, or set
@@ -129,6 +119,7 @@ class QORKIT_WIDGETS_EXPORT TQORCalcEditBase : public QWidget, public IQORNotify
     Q_PROPERTY(QString AsString READ GetText WRITE SetAsString NOTIFY asStringChanged STORED false)
     Q_PROPERTY(TQOREditColorSet* ColorSet READ GetColorSet CONSTANT)
     Q_PROPERTY(TQORUICtrl* UICtrl READ GetUICtrl WRITE SetUICtrl NOTIFY uiCtrlChanged)
+    Q_PROPERTY(qorkit::TQORUIUsage UIUsage READ GetUIUsage WRITE SetUIUsage NOTIFY uiUsageChanged)
 
 public:
     ~TQORCalcEditBase() override;
@@ -216,7 +207,7 @@ public:
     TQORUICtrl* GetUICtrl() const { return edit_->GetUICtrl(); }
     void SetUICtrl(TQORUICtrl* value);
     TQORUIUsage GetUIUsage() const { return edit_->GetUIUsage(); }
-    void SetUIUsage(TQORUIUsage value) { edit_->SetUIUsage(value); }
+    void SetUIUsage(TQORUIUsage value);
 
     // Editing operations of the inner edit.
     void Clear() { edit_->clear(); }
@@ -321,6 +312,7 @@ Q_SIGNALS:
     void textChanged();
     void asStringChanged();
     void uiCtrlChanged();
+    void uiUsageChanged();
 
 protected:
     TQORCalcEditBase(QWidget* parent, const TQORCalcKind& kind);

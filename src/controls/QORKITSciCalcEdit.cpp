@@ -14,7 +14,9 @@ bool ExecuteSciCalc(TQORFloatCalcComponent& calculator, bool centred, int left, 
 bool DisplaySciCalcChild(const std::string& title, Extended& value, int left, int top,
                          std::uint8_t decimals, bool flat, QWidget* parent)
 {
-    return DisplayCalcChild<TQORSciCalcForm>(title, value, left, top, decimals, flat, parent);
+    if (left == -1 && top == -1)
+        return DisplaySciCalc(title, value, decimals, flat, parent);
+    return DisplaySciCalcPos(title, value, left, top, decimals, flat, parent);
 }
 
 } // namespace

@@ -3,9 +3,11 @@
 // checked against the headers, so a new class cannot be left out of the survey.
 #include "QORKITBaseControls.h"
 #include "QORKITBaseEdit.h"
+#include "QORKITCalcEdit.h"
 #include "QORKITCalcFormBase.h"
 #include "QORKITCalculator.h"
 #include "QORKITConvertors.h"
+#include "QORKITCurrEdit.h"
 #include "QORKITEditColors.h"
 #include "QORKITEngineObjects.h"
 #include "QORKITFloatCalcComponent.h"
@@ -13,6 +15,7 @@
 #include "QORKITFloatEdit.h"
 #include "QORKITProgCalculator.h"
 #include "QORKITRegIni.h"
+#include "QORKITSciCalcEdit.h"
 #include "QORKITSciCalculator.h"
 #include "QORKITStoreCtrl.h"
 #include "QORKITTapeModel.h"
@@ -58,6 +61,14 @@ const QMetaObject* const LibraryClasses[] = {&TQOREditColorSet::staticMetaObject
                                              &TQORCalcSettingsEvents::staticMetaObject,
                                              &TQORTapeModel::staticMetaObject,
                                              &TQORBaseConvertor::staticMetaObject,
+                                             &TQORCalcEditBase::staticMetaObject,
+                                             &TQORFloatCalcEdit::staticMetaObject,
+                                             &TQORCalcEdit::staticMetaObject,
+                                             &TQORSciCalcEdit::staticMetaObject,
+                                             &TQORBaseCurrEdit::staticMetaObject,
+                                             &TQORCurrEdit::staticMetaObject,
+                                             &TQORLongCurrEdit::staticMetaObject,
+                                             &TQORCurrencyEdit::staticMetaObject,
 #define QORKIT_SURVEY_CONVERTOR(convertor, type, key) &convertor::staticMetaObject,
                                              QORKIT_CONVERTOR_LIST(QORKIT_SURVEY_CONVERTOR)
 #undef QORKIT_SURVEY_CONVERTOR
