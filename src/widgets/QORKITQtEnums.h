@@ -153,4 +153,24 @@ enum TNegativeFormatType : std::uint8_t {
 };
 Q_ENUM_NS(TNegativeFormatType)
 
+// How an expression edit evaluates its text: digits, operators and "pi" only, or the full
+// expression language with named functions, memory words and the exponent.
+enum TQORExpressionType : std::uint8_t { etSimple = 0, etFull = 1 };
+Q_ENUM_NS(TQORExpressionType)
+
+// What an expression edit shows: while the user edits it and when it is left.
+enum TQORExpressionDisplay : std::uint8_t {
+    edExpressionWhileEditing = 0, // the expression while editing, the formatted value otherwise
+    edValue = 1, // the value always (typing replaces the expression)
+    edExpression = 2, // the expression always
+};
+Q_ENUM_NS(TQORExpressionDisplay)
+
+// The two numbers a complex edit shows.
+enum TQORComplexType : std::uint8_t {
+    ctRealImaginary = 0, // the real and the imaginary part
+    ctPolar = 1, // the modulus and the amplitude (radians)
+};
+Q_ENUM_NS(TQORComplexType)
+
 } // namespace qorkit

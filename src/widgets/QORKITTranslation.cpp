@@ -1,5 +1,6 @@
 #include "QORKITTranslation.h"
 
+#include "QORKITExprEdit.h"
 #include "QORKITFloatEdit.h"
 #include "QORKITImperial.h"
 #include "QORKITSettings.h"
@@ -154,13 +155,14 @@ void SyncFormatSettingsFromLocale(const QLocale& locale)
 std::span<const TTextModule> TextModules()
 {
     // The contexts are those the modules pass to LoadResString.
-    static const std::array<TTextModule, 6> modules {{
+    static const std::array<TTextModule, 7> modules {{
         {"QORKIT_Base", BaseTexts()},
         {"QORKIT_RS_Calc", CalcTexts()},
         {UCTextContext, UCTexts()},
         {"QORKITImperial", ImperialTexts()},
         {"QORKITFloatEdit", FloatEditTexts()},
         {DialogTextContext, DialogTexts()},
+        {"QORKITExprEdit", ExprEditTexts()},
     }};
     return modules;
 }
