@@ -7189,4 +7189,12 @@
             <translation type="unfinished"/>
         </message>
     </context>
+    <context>
+        <name>QORKITExprEdit</name>
+        <message>
+            <source>'%s' cannot be evaluated</source>
+            <extracomment>rsExpressionNotEvaluated</extracomment>
+            <translation type="unfinished"/>
+        </message>
+    </context>
 </TS>

@@ -18,7 +18,8 @@
 // Width, Height, Anchors, Color, Enabled, Font and PopupMenu are the widget's own geometry,
 // layout, palette, enabled, font and context-menu settings. OnClick, OnEnter and OnExit
 // (focus entering and leaving the pair), OnKeyDown, OnKeyPress and OnKeyUp are forwarded from
-// the element edits with the control as the sender.
+// the element edits with the control as the sender. OnChange, OnNull, OnNullChange,
+// OnColorSetChange and OnSpecialColor are the control's own; each event is also a signal.
 #pragma once
 
 #include "QORKITComponent.h"
