@@ -1,17 +1,14 @@
 // TQORComplexEdit: the layout of its children, values set through its setters and
 // properties, numbers typed into the element edits (in both display forms), the null state,
 // refused values, the settings passed to both edits and the focus path through the pair.
-#include "../widgets/QtKeyDriver.h"
+#include "EditWindowTest.h"
 #include "QORKITComplex.h"
 #include "QORKITComplexEdit.h"
 #include "QORKITConstants.h"
-#include "QorkitTestSupport.h"
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
-#include <QVBoxLayout>
 
 #include <gtest/gtest.h>
 
@@ -20,18 +17,11 @@
 namespace qorkit {
 namespace {
 
-class ComplexEditTest : public test::GlobalStateTest {
+class ComplexEditTest : public test::EditWindowTest<TQORComplexEdit> {
 protected:
     void SetUp() override
     {
-        GlobalStateTest::SetUp();
-        auto* layout = new QVBoxLayout(&window_);
-        edit_ = new TQORComplexEdit(&window_);
-        other_ = new QLineEdit(&window_);
-        layout->addWidget(edit_, 0, Qt::AlignLeft);
-        layout->addWidget(other_);
-        ASSERT_TRUE(test::ShowActive(window_));
-        other_->setFocus(Qt::TabFocusReason);
+        EditWindowTest::SetUp();
         edit_->SetOnChange([this](QObject* sender) {
             EXPECT_EQ(sender, edit_);
             seen_.push_back(edit_->GetComplex());
@@ -39,18 +29,8 @@ protected:
         edit_->SetOnValidationError([this](QObject*, const QString& m) { errors_ << m; });
     }
     TQORFloatEdit* Element(int index) const { return edit_->GetElementEdit(index); }
-    // Enters element edit `index`, replaces its text with `keys` and leaves the control.
-    void Type(int index, const QString& keys)
-    {
-        Element(index)->setFocus(Qt::TabFocusReason);
-        Element(index)->selectAll();
-        QTest::keyClicks(Element(index), keys);
-        other_->setFocus(Qt::TabFocusReason);
-    }
+    void Type(int index, const QString& keys) { TypeInto(Element(index), keys); }
 
-    QWidget window_;
-    TQORComplexEdit* edit_ = nullptr;
-    QLineEdit* other_ = nullptr;
     std::vector<TQORComplex> seen_; // the value at each change notice
     QStringList errors_;
 };

@@ -1,15 +1,11 @@
 // TQORDMSEdit: the angle read back in each unit, its text in each form, the edit's own marks
 // and separator (with the process-wide ones left as they were), typed angles, refused text,
 // the add operations and the change signals.
-#include "../widgets/QtKeyDriver.h"
+#include "EditWindowTest.h"
 #include "QORKITDMSEdit.h"
 #include "QORKITSettings.h"
-#include "QorkitTestSupport.h"
 
-#include <QLineEdit>
 #include <QSignalSpy>
-#include <QTest>
-#include <QVBoxLayout>
 
 #include <gtest/gtest.h>
 
@@ -19,28 +15,15 @@
 namespace qorkit {
 namespace {
 
-class DMSEditTest : public test::GlobalStateTest {
+class DMSEditTest : public test::EditWindowTest<TQORDMSEdit> {
 protected:
     void SetUp() override
     {
-        GlobalStateTest::SetUp();
-        auto* layout = new QVBoxLayout(&window_);
-        edit_ = new TQORDMSEdit(&window_);
-        other_ = new QLineEdit(&window_);
-        layout->addWidget(edit_);
-        layout->addWidget(other_);
-        ASSERT_TRUE(test::ShowActive(window_));
-        other_->setFocus(Qt::TabFocusReason);
+        EditWindowTest::SetUp();
         edit_->SetOnChange([this](QObject*) { ++changes_; });
         edit_->SetOnValidationError([this](QObject*, const QString& m) { errors_ << m; });
     }
-    void Type(const QString& keys)
-    {
-        edit_->setFocus(Qt::TabFocusReason);
-        edit_->selectAll();
-        QTest::keyClicks(edit_, keys);
-        other_->setFocus(Qt::TabFocusReason);
-    }
+    void Type(const QString& keys) { TypeInto(edit_, keys); }
     void ExpectGlobalMarksUntouched() const
     {
         const TFormatSettings defaults;
@@ -50,9 +33,6 @@ protected:
         EXPECT_EQ(FormatSettings.DecimalSeparator, defaults.DecimalSeparator);
     }
 
-    QWidget window_;
-    TQORDMSEdit* edit_ = nullptr;
-    QLineEdit* other_ = nullptr;
     int changes_ = 0;
     QStringList errors_;
 };

@@ -1,16 +1,13 @@
 // TQORExpressEdit driven through the keyboard: typed expressions and their values, the two
 // expression languages, what is shown while editing and afterwards, the null string, refused
 // expressions and the change signals.
-#include "../widgets/QtKeyDriver.h"
+#include "EditWindowTest.h"
 #include "QORKITExprEdit.h"
 #include "QORKITResource.h"
 #include "QORKIT_RS_Calc.h"
-#include "QorkitTestSupport.h"
 
-#include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
-#include <QVBoxLayout>
 
 #include <gtest/gtest.h>
 
@@ -20,33 +17,16 @@
 namespace qorkit {
 namespace {
 
-class ExprEditTest : public test::GlobalStateTest {
+class ExprEditTest : public test::EditWindowTest<TQORExpressEdit> {
 protected:
     void SetUp() override
     {
-        GlobalStateTest::SetUp();
-        auto* layout = new QVBoxLayout(&window_);
-        edit_ = new TQORExpressEdit(&window_);
-        other_ = new QLineEdit(&window_);
-        layout->addWidget(edit_);
-        layout->addWidget(other_);
-        ASSERT_TRUE(test::ShowActive(window_));
-        other_->setFocus(Qt::TabFocusReason);
+        EditWindowTest::SetUp();
         edit_->SetOnChange([this](QObject*) { ++changes_; });
         edit_->SetOnValidationError([this](QObject*, const QString& m) { errors_ << m; });
     }
-    // Enters the edit, replaces its text with `keys` and leaves it again.
-    void Type(const QString& keys)
-    {
-        edit_->setFocus(Qt::TabFocusReason);
-        edit_->selectAll();
-        QTest::keyClicks(edit_, keys);
-        other_->setFocus(Qt::TabFocusReason);
-    }
+    void Type(const QString& keys) { TypeInto(edit_, keys); }
 
-    QWidget window_;
-    TQORExpressEdit* edit_ = nullptr;
-    QLineEdit* other_ = nullptr;
     int changes_ = 0;
     QStringList errors_;
 };

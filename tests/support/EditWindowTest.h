@@ -1,0 +1,41 @@
+// A fixture for tests that drive one edit control with real focus changes: the control and a
+// plain line edit in an active window, the focus starting on the line edit.
+#pragma once
+
+#include "../widgets/QtKeyDriver.h"
+#include "QorkitTestSupport.h"
+
+#include <QLineEdit>
+#include <QTest>
+#include <QVBoxLayout>
+
+namespace qorkit::test {
+
+template<class Control> class EditWindowTest : public GlobalStateTest {
+protected:
+    void SetUp() override
+    {
+        GlobalStateTest::SetUp();
+        auto* layout = new QVBoxLayout(&window_);
+        edit_ = new Control(&window_);
+        other_ = new QLineEdit(&window_);
+        layout->addWidget(edit_, 0, Qt::AlignLeft);
+        layout->addWidget(other_);
+        ASSERT_TRUE(ShowActive(window_));
+        other_->setFocus(Qt::TabFocusReason);
+    }
+    // Tabs into `target`, replaces its text with `keys` and tabs out to the line edit.
+    void TypeInto(QLineEdit* target, const QString& keys)
+    {
+        target->setFocus(Qt::TabFocusReason);
+        target->selectAll();
+        QTest::keyClicks(target, keys);
+        other_->setFocus(Qt::TabFocusReason);
+    }
+
+    QWidget window_;
+    Control* edit_ = nullptr;
+    QLineEdit* other_ = nullptr;
+};
+
+} // namespace qorkit::test
