@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <ostream>
 
 namespace qorkit {
 namespace {
@@ -41,6 +42,8 @@ struct ChildRow {
     const char* Child;
     QRect Geometry; // empty: hidden
 };
+
+void PrintTo(const ChildRow& row, std::ostream* os) { *os << row.Name; }
 
 class ComplexEditLayout : public ComplexEditTest,
                           public ::testing::WithParamInterface<ChildRow> { };

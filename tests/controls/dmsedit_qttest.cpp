@@ -11,6 +11,7 @@
 
 #include <functional>
 #include <limits>
+#include <ostream>
 
 namespace qorkit {
 namespace {
@@ -56,6 +57,8 @@ struct TextRow {
     std::function<void(TQORDMSEdit&)> Setup;
     const char* Text; // UTF-8
 };
+
+void PrintTo(const TextRow& row, std::ostream* os) { *os << row.Name; }
 
 class DMSEditText : public DMSEditTest, public ::testing::WithParamInterface<TextRow> { };
 
@@ -133,6 +136,8 @@ struct TypedRow {
     Extended Degrees;
 };
 
+void PrintTo(const TypedRow& row, std::ostream* os) { *os << row.Name; }
+
 class DMSEditTyping : public DMSEditTest, public ::testing::WithParamInterface<TypedRow> { };
 
 TEST_P(DMSEditTyping, TypedAngles)
@@ -182,6 +187,8 @@ struct AddRow {
     Extended Amount;
     Extended Result;
 };
+
+void PrintTo(const AddRow& row, std::ostream* os) { *os << row.Name; }
 
 class DMSEditAdd : public DMSEditTest, public ::testing::WithParamInterface<AddRow> { };
 

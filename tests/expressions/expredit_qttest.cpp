@@ -13,6 +13,7 @@
 
 #include <functional>
 #include <limits>
+#include <ostream>
 
 namespace qorkit {
 namespace {
@@ -38,6 +39,8 @@ struct TypedRow {
     Extended Value;
     const char* Shown; // the text once the edit is left
 };
+
+void PrintTo(const TypedRow& row, std::ostream* os) { *os << row.Name; }
 
 class ExprEditTyping : public ExprEditTest, public ::testing::WithParamInterface<TypedRow> { };
 
@@ -82,6 +85,8 @@ struct DisplayRow {
     const char* Editing;
     const char* Left;
 };
+
+void PrintTo(const DisplayRow& row, std::ostream* os) { *os << row.Name; }
 
 class ExprEditDisplay : public ExprEditTest, public ::testing::WithParamInterface<DisplayRow> { };
 
@@ -138,6 +143,8 @@ struct RefusedRow {
     const char* Keys;
     const char* MessagePart;
 };
+
+void PrintTo(const RefusedRow& row, std::ostream* os) { *os << row.Name; }
 
 class ExprEditRefused : public ExprEditTest, public ::testing::WithParamInterface<RefusedRow> { };
 

@@ -13,6 +13,7 @@
 
 #include <cmath>
 #include <limits>
+#include <ostream>
 
 namespace qorkit {
 namespace {
@@ -42,6 +43,8 @@ struct VarRow {
     const char* Expression;
     Extended Expected;
 };
+
+void PrintTo(const VarRow& row, std::ostream* os) { *os << row.Name; }
 
 class ExprEvaluatorVars : public ExprEvaluatorTest,
                           public ::testing::WithParamInterface<VarRow> { };
@@ -115,6 +118,8 @@ struct ErrorRow {
     const char* Expression;
     std::string (*Message)();
 };
+
+void PrintTo(const ErrorRow& row, std::ostream* os) { *os << row.Name; }
 
 class ExprEvaluatorErrors : public ExprEvaluatorTest,
                             public ::testing::WithParamInterface<ErrorRow> { };
