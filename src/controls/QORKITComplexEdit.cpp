@@ -529,14 +529,9 @@ void TQORComplexEdit::SetUICtrl(TQORUICtrl* value)
 
 void TQORComplexEdit::SetUIUsage(TQORUIUsage value)
 {
-    if (PassToEdits(&TQORFloatEdit::GetUIUsage, &TQORFloatEdit::SetUIUsage, value))
+    if (value <= uiAll
+        && PassToEdits(&TQORFloatEdit::GetUIUsage, &TQORFloatEdit::SetUIUsage, value))
         Q_EMIT uiUsageChanged();
-}
-
-void TQORComplexEdit::SetUIUsageValue(int value)
-{
-    if (value >= uiOwn && value <= uiAll)
-        SetUIUsage(static_cast<TQORUIUsage>(value));
 }
 
 } // namespace qorkit

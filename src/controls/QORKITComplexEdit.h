@@ -40,7 +40,7 @@ class QORKIT_WIDGETS_EXPORT TQORComplexEdit : public QWidget {
     Q_OBJECT
     Q_PROPERTY(bool AutoSize READ GetAutoSize WRITE SetAutoSize NOTIFY autoSizeChanged)
     Q_PROPERTY(TQORUICtrl* UICtrl READ GetUICtrl WRITE SetUICtrl NOTIFY uiCtrlChanged)
-    Q_PROPERTY(int UIUsage READ GetUIUsageValue WRITE SetUIUsageValue NOTIFY uiUsageChanged)
+    Q_PROPERTY(qorkit::TQORUIUsage UIUsage READ GetUIUsage WRITE SetUIUsage NOTIFY uiUsageChanged)
     Q_PROPERTY(TQOREditColorSet* ColorSet READ GetColorSet CONSTANT)
     Q_PROPERTY(bool StoreValue READ GetStoreValue WRITE SetStoreValue NOTIFY storeValueChanged)
     Q_PROPERTY(
@@ -238,8 +238,6 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    int GetUIUsageValue() const { return GetUIUsage(); }
-    void SetUIUsageValue(int value);
     int GetDecimalPlacesValue() const { return GetDecimalPlaces(); }
     void SetDecimalPlacesValue(int value);
     double GetAbsValueDouble() const { return static_cast<double>(GetAbsValue()); }

@@ -6,10 +6,14 @@
 #include "QORKITCalcEdit.h"
 #include "QORKITCalcFormBase.h"
 #include "QORKITCalculator.h"
+#include "QORKITComplexEdit.h"
 #include "QORKITConvertors.h"
 #include "QORKITCurrEdit.h"
+#include "QORKITDMSEdit.h"
 #include "QORKITEditColors.h"
 #include "QORKITEngineObjects.h"
+#include "QORKITExprEdit.h"
+#include "QORKITExprEvaluator.h"
 #include "QORKITFloatCalcComponent.h"
 #include "QORKITFloatCalcForm.h"
 #include "QORKITFloatEdit.h"
@@ -69,6 +73,10 @@ const QMetaObject* const LibraryClasses[] = {&TQOREditColorSet::staticMetaObject
                                              &TQORCurrEdit::staticMetaObject,
                                              &TQORLongCurrEdit::staticMetaObject,
                                              &TQORCurrencyEdit::staticMetaObject,
+                                             &TQORExprEvaluator::staticMetaObject,
+                                             &TQORExpressEdit::staticMetaObject,
+                                             &TQORComplexEdit::staticMetaObject,
+                                             &TQORDMSEdit::staticMetaObject,
 #define QORKIT_SURVEY_CONVERTOR(convertor, type, key) &convertor::staticMetaObject,
                                              QORKIT_CONVERTOR_LIST(QORKIT_SURVEY_CONVERTOR)
 #undef QORKIT_SURVEY_CONVERTOR
