@@ -118,6 +118,8 @@ EXACT = {
     "const": "konst", "Power": "Potenz",
     "'%s' is outside the allowed range": "'%s' liegt außerhalb des erlaubten Bereichs",
     "The value is not a finite number": "Der Wert ist keine endliche Zahl",
+    # expression edit
+    "'%s' cannot be evaluated": "'%s' kann nicht berechnet werden",
     # dialogs: the paper tape
     "Paper Tape": "Papierstreifen", "Copy Tape": "Papierstreifen kopieren",
     # dialogs: what assistive technology says of the panels and keys

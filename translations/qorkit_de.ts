@@ -7189,4 +7189,12 @@
             <translation>Rotiert die Bits um eine Stelle nach rechts</translation>
         </message>
     </context>
+    <context>
+        <name>QORKITExprEdit</name>
+        <message>
+            <source>'%s' cannot be evaluated</source>
+            <extracomment>rsExpressionNotEvaluated</extracomment>
+            <translation>'%s' kann nicht berechnet werden</translation>
+        </message>
+    </context>
 </TS>
