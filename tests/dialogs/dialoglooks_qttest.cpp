@@ -156,7 +156,8 @@ protected:
             EXPECT_LE(metrics.horizontalAdvance(line) + panel->indent(),
                       panel->contentsRect().width())
                 << line.toStdString();
-        EXPECT_LE(static_cast<qreal>(parts.size()) * metrics.lineSpacing(), panel->contentsRect().height())
+        EXPECT_LE(static_cast<qreal>(parts.size()) * metrics.lineSpacing(),
+                  panel->contentsRect().height())
             << shown.toStdString();
         EXPECT_GE(QFontInfo(panel->font()).pixelSize(), 6);
     }
