@@ -46,24 +46,21 @@ function(qorkit_add_test_dir folder)
     endif()
 endfunction()
 
-# A source folder: QORKIT*.cpp files go to qorkit_core, except the modules named in QT_MODULES
-# (and every module when the folder is Qt-only), which go to qorkit_widgets with the folder's
-# .qrc resources.
+# A source folder's modules, listed by name: CORE sources go to qorkit_core, QT sources and the
+# folder's RESOURCES (.qrc) to qorkit_widgets when it is built. A .cpp file in the folder that is
+# in neither list stops the configure step, so a new module is never left out of the build.
 function(qorkit_add_source_dir)
-    cmake_parse_arguments(ARG "QT_ONLY" "" "QT_MODULES" ${ARGN})
-    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
-    file(GLOB resources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.qrc)
-    foreach(src IN LISTS sources)
-        get_filename_component(module ${src} NAME_WE)
-        if(ARG_QT_ONLY OR module IN_LIST ARG_QT_MODULES)
-            if(TARGET qorkit_widgets)
-                target_sources(qorkit_widgets PRIVATE ${src})
-            endif()
-        else()
-            target_sources(qorkit_core PRIVATE ${src})
+    cmake_parse_arguments(ARG "" "" "CORE;QT;RESOURCES" ${ARGN})
+    if(ARG_CORE)
+        target_sources(qorkit_core PRIVATE ${ARG_CORE})
+    endif()
+    if(TARGET qorkit_widgets AND (ARG_QT OR ARG_RESOURCES))
+        target_sources(qorkit_widgets PRIVATE ${ARG_QT} ${ARG_RESOURCES})
+    endif()
+    file(GLOB present RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+    foreach(src IN LISTS present)
+        if(NOT src IN_LIST ARG_CORE AND NOT src IN_LIST ARG_QT)
+            message(FATAL_ERROR "${CMAKE_CURRENT_SOURCE_DIR}/${src} is not listed in its CMakeLists.txt")
         endif()
     endforeach()
-    if(resources AND TARGET qorkit_widgets)
-        target_sources(qorkit_widgets PRIVATE ${resources})
-    endif()
 endfunction()

@@ -23,8 +23,6 @@ using Engine = TQORCalcEngine;
 
 constexpr Extended PercentFactor = 0.01L;
 constexpr Extended StandardGravity = 9.80665L;
-constexpr std::size_t InitialStackLength = 10;
-constexpr std::int32_t StackGrowth = 5; // a full stack grows to top + 5: four spare slots
 
 std::string Text(const char* s) { return s; }
 
@@ -66,15 +64,6 @@ constexpr std::string_view FunctionCodes = "ACDGLNQRSTUWacdfgilnqrstuw";
 bool IsFunctionCode(char c) { return FunctionCodes.find(c) != std::string_view::npos; }
 
 // Sign clean-up of a typed number: a second minus cancels the first.
-void CleanSigns(std::string& s)
-{
-    static constexpr std::pair<std::string_view, std::string_view> rules[]
-        = {{"--", ""}, {"-+", ""}, {"+-", "-"}};
-    for (const auto& [from, to] : rules)
-        for (auto at = s.find(from); at != std::string::npos; at = s.find(from, at))
-            s.replace(at, from.size(), to);
-}
-
 // The text of a typed number with its exponent negated: "1E5" -> "1E-5", "1E-05" -> "1E5";
 // a zero or missing exponent gives "1E-".
 std::string NegateExponent(const std::string& entry, std::size_t ePos)
@@ -122,7 +111,6 @@ std::int64_t TodayNumber()
 // ---- Construction, guard and events ------------------------------------------------------
 
 TQORCalcEngine::TQORCalcEngine()
-    : operandStack_(InitialStackLength), operatorStack_(InitialStackLength)
 {
     SetDisplayValue("0");
     // Today's day number: the seed changes once a day, by design.
@@ -133,28 +121,8 @@ TQORCalcEngine::TQORCalcEngine()
 // abandons the rest of the operation and leaves the engine cleared with "Error!" showing.
 template<class Body> void TQORCalcEngine::Guarded(Body&& body)
 {
-    if (guardDepth_ > 0) {
-        body();
-        return;
-    }
-    struct Depth {
-        int& depth;
-        explicit Depth(int& d) : depth(d) { ++depth; }
-        ~Depth() { --depth; }
-        Depth(const Depth&) = delete;
-        Depth& operator=(const Depth&) = delete;
-    };
-    std::string message;
-    try {
-        const Depth depth(guardDepth_);
-        body();
-        return;
-    } catch (const std::bad_alloc&) {
-        throw;
-    } catch (const std::exception& e) {
-        message = e.what();
-    }
-    HandleError(message);
+    guard_.Run(std::forward<Body>(body),
+               [this](const std::string& message) { HandleError(message); });
 }
 
 void TQORCalcEngine::HandleError(const std::string& message)
@@ -215,7 +183,7 @@ Extended TQORCalcEngine::GetDisplayValue()
         entryStr_.clear();
         return 0;
     }
-    return operandTop_ >= 0 ? operandStack_[static_cast<std::size_t>(operandTop_)] : 0;
+    return !operands_.Empty() ? operands_.Top() : 0;
 }
 
 Extended TQORCalcEngine::TypedValue() const
@@ -240,7 +208,7 @@ void TQORCalcEngine::Numeric(char Ch)
         entryStr_.insert(entryStr_.begin(), Ch);
     else
         entryStr_ += Ch;
-    CleanSigns(entryStr_);
+    engine_internal::CleanSigns(entryStr_);
     SetDisplayValue(entryStr_);
     ClearToggles();
     lastOperator_ = Ch;
@@ -318,8 +286,7 @@ void TQORCalcEngine::DoChangeSign()
             SetDisplayValue(entryStr_);
         } else {
             // The negated value goes on top; the old operand stays beneath it.
-            const Extended top
-                = operandTop_ >= 0 ? operandStack_[static_cast<std::size_t>(operandTop_)] : 0;
+            const Extended top = !operands_.Empty() ? operands_.Top() : 0;
             ShowResult(top * -1);
             AddToHistory("+/-", false);
         }
@@ -400,17 +367,10 @@ void TQORCalcEngine::ClearToggles()
 void TQORCalcEngine::Push(Extended value)
 {
     value = CheckFloat(value);
-    if (static_cast<std::int32_t>(operandStack_.size()) - 1 <= operandTop_)
-        operandStack_.resize(static_cast<std::size_t>(operandTop_ + StackGrowth));
-    operandStack_[static_cast<std::size_t>(++operandTop_)] = value;
+    operands_.Push(value);
 }
 
-void TQORCalcEngine::PushOperator(char op)
-{
-    if (static_cast<std::int32_t>(operatorStack_.size()) - 1 <= operatorTop_)
-        operatorStack_.resize(static_cast<std::size_t>(operatorTop_ + StackGrowth));
-    operatorStack_[static_cast<std::size_t>(++operatorTop_)] = op;
-}
+void TQORCalcEngine::PushOperator(char op) { operators_.Push(op); }
 
 void TQORCalcEngine::PushOperandStack(Extended Value)
 {
@@ -419,22 +379,17 @@ void TQORCalcEngine::PushOperandStack(Extended Value)
 
 void TQORCalcEngine::PushOperatorStack(char Op) { PushOperator(Op); }
 
-Extended TQORCalcEngine::PopOperand()
-{
-    return operandStack_[static_cast<std::size_t>(operandTop_--)];
-}
+Extended TQORCalcEngine::PopOperand() { return operands_.Pop(); }
 
 void TQORCalcEngine::EmptyStacks()
 {
-    operandTop_ = -1;
-    operatorTop_ = -1;
+    operands_.Clear();
+    operators_.Clear();
 }
 
 void TQORCalcEngine::ShowTop()
 {
-    SetDisplayValue(operandTop_ >= 0
-                        ? ShownValue(operandStack_[static_cast<std::size_t>(operandTop_)])
-                        : std::string("0"));
+    SetDisplayValue(!operands_.Empty() ? ShownValue(operands_.Top()) : std::string("0"));
 }
 
 void TQORCalcEngine::ShowResult(Extended value)
@@ -466,7 +421,7 @@ void TQORCalcEngine::Arithmetic(char Op)
 {
     Guarded([&] {
         static constexpr std::string_view binarySigns = "#&(*+-/@\\^|E";
-        const bool signContext = (entryStr_.empty() && operandTop_ < 0)
+        const bool signContext = (entryStr_.empty() && operands_.Empty())
             || binarySigns.find(lastOperator_) != std::string_view::npos
             || IsFunctionCode(lastOperator_) || (lastOperator_ == '%' && !binaryPercent_);
         if ((Op == '+' || Op == '-') && signContext) {
@@ -474,8 +429,7 @@ void TQORCalcEngine::Arithmetic(char Op)
             return;
         }
         UpdateValue();
-        while (operatorTop_ >= 0
-               && !HigherPrecedence(Op, operatorStack_[static_cast<std::size_t>(operatorTop_)]))
+        while (!operators_.Empty() && !HigherPrecedence(Op, operators_.Top()))
             Reduce();
         PushOperator(Op);
         ShowTop();
@@ -499,26 +453,26 @@ void TQORCalcEngine::DoIntDiv() { Arithmetic('|'); }
 void TQORCalcEngine::StackManipulation()
 {
     Guarded([&] {
-        if (operatorTop_ >= 0)
+        if (!operators_.Empty())
             Reduce();
     });
 }
 
 void TQORCalcEngine::Reduce()
 {
-    const char code = operatorStack_[static_cast<std::size_t>(operatorTop_--)];
+    const char code = operators_.Pop();
     if (code == '%' && !binaryPercent_) {
         UnaryPercentReduce();
         return;
     }
     if (const auto* op = FindBinary(code)) {
-        if (operandTop_ < 1)
+        if (operands_.Count() < 2)
             throw EMathError(rsInvalidEquation());
         const Extended y = PopOperand();
-        const Extended x = operandStack_[static_cast<std::size_t>(operandTop_)];
+        const Extended x = operands_.Top();
         if (op->ZeroDivisor && y == 0)
             throw EZeroDivide(rsDivideByZero());
-        operandStack_[static_cast<std::size_t>(operandTop_)] = CheckFloat(op->Apply(x, y));
+        operands_.Top() = CheckFloat(op->Apply(x, y));
         return;
     }
     if (IsFunctionCode(code))
@@ -530,17 +484,15 @@ void TQORCalcEngine::Reduce()
 // of the operand beneath it.
 void TQORCalcEngine::UnaryPercentReduce()
 {
-    if (operandTop_ < 0)
+    if (operands_.Empty())
         throw EMathError(rsInvalidEquation());
-    auto& top = operandStack_[static_cast<std::size_t>(operandTop_)];
-    top = operandTop_ >= 1
-        ? CheckFloat(top * operandStack_[static_cast<std::size_t>(operandTop_ - 1)] * PercentFactor)
-        : 0;
+    auto& top = operands_.Top();
+    top = operands_.Count() >= 2 ? CheckFloat(top * operands_.Below(1) * PercentFactor) : 0;
 }
 
 void TQORCalcEngine::ReduceUntil(bool (*stop)(char top))
 {
-    while (operatorTop_ >= 0 && !stop(operatorStack_[static_cast<std::size_t>(operatorTop_)]))
+    while (!operators_.Empty() && !stop(operators_.Top()))
         Reduce();
 }
 
@@ -565,8 +517,8 @@ void TQORCalcEngine::InputRightBracket()
     Guarded([&] {
         UpdateValue();
         ReduceUntil([](char top) { return top == '('; });
-        if (operatorTop_ >= 0) // an unmatched ')' is accepted silently
-            --operatorTop_;
+        if (!operators_.Empty()) // an unmatched ')' is accepted silently
+            operators_.Drop();
         ShowTop();
         AddToHistory(")", false);
         lastOperator_ = ')';
@@ -579,11 +531,8 @@ void TQORCalcEngine::DoResult()
         UpdateValue();
         ReduceUntil([](char) { return false; }); // unclosed brackets are dropped
         // Left-over operands are discarded on purpose: the last one is the result.
-        if (operandTop_ > 0) {
-            operandStack_[0] = operandStack_[static_cast<std::size_t>(operandTop_)];
-            operandTop_ = 0;
-        }
-        if (operandTop_ >= 0)
+        operands_.KeepTopOnly();
+        if (!operands_.Empty())
             ShowTop();
         else if (displayStr_ != rsErrorMsg())
             SetDisplayValue("0");
@@ -611,9 +560,7 @@ void TQORCalcEngine::DoPercent()
             lastOperator_ = ' ';
             return;
         }
-        const auto operand = [this](std::int32_t below) {
-            return operandStack_[static_cast<std::size_t>(operandTop_ - below)];
-        };
+        const auto operand = [this](std::int32_t below) { return operands_.Below(below); };
         Extended result = 0;
         if (!entryStr_.empty()) {
             const Extended percent = TypedValue();
@@ -623,10 +570,10 @@ void TQORCalcEngine::DoPercent()
                 AddToHistory(entryStr_, false);
                 AddToHistory("%", false);
             }
-            if (operandTop_ >= 0)
+            if (!operands_.Empty())
                 result = operand(0) * percent * PercentFactor;
         } else {
-            if (operandTop_ >= 1)
+            if (operands_.Count() >= 2)
                 result = operand(0) * operand(1) * PercentFactor;
             AddToHistory("%", false);
         }
@@ -708,7 +655,7 @@ Extended TQORCalcEngine::PostfixArgument()
         AddToHistory(value);
         return value;
     }
-    return operandTop_ >= 0 ? operandStack_[static_cast<std::size_t>(operandTop_)] : 0;
+    return !operands_.Empty() ? operands_.Top() : 0;
 }
 
 void TQORCalcEngine::FunctionKeyPressed(std::string_view codes)
@@ -736,12 +683,12 @@ void TQORCalcEngine::FunctionKeyPressed(std::string_view codes)
 
 void TQORCalcEngine::ApplyFunction(char code)
 {
-    if (operandTop_ < 0)
+    if (operands_.Empty())
         throw EMathError(rsInvalidEquation());
     const auto& function = FindFunction(code);
     isInv_ = function.Inv;
     isHyp_ = function.Hyp;
-    auto& top = operandStack_[static_cast<std::size_t>(operandTop_)];
+    auto& top = operands_.Top();
     top = (this->*function.Compute)(top);
 }
 
@@ -772,7 +719,7 @@ void TQORCalcEngine::DoSquare()
 void TQORCalcEngine::DoInvert()
 {
     Guarded([&] {
-        if (entryStr_.empty() && operandTop_ < 0)
+        if (entryStr_.empty() && operands_.Empty())
             throw EZeroDivide(rsDivideByZero());
         const Extended argument = PostfixArgument();
         AddToHistory(rsInvertPaper(), false);
@@ -966,8 +913,8 @@ void TQORCalcEngine::MemoryStep(int sign, const std::string& label)
         if (!entryStr_.empty()) {
             operand = TypedValue();
             AddToHistory(operand);
-        } else if (operandTop_ >= 0) {
-            operand = operandStack_[static_cast<std::size_t>(operandTop_)];
+        } else if (!operands_.Empty()) {
+            operand = operands_.Top();
         }
         memory_ = CheckFloat(memory_ + static_cast<Extended>(sign) * operand);
         ClearToggles();
@@ -1019,9 +966,9 @@ void TQORCalcEngine::AddToHistory(const std::string& S, bool SameLine)
         return;
     }
     if (pendingOperatorText_.empty()) {
-        history_.push_back(S);
+        tape_.Add(S);
     } else {
-        history_.push_back(pendingOperatorText_ + " " + S);
+        tape_.Add(pendingOperatorText_ + " " + S);
         pendingOperatorText_.clear();
     }
     Fire(onHistoryChange_);
@@ -1033,38 +980,27 @@ void TQORCalcEngine::PaperLine() { AddToHistory(rsPaperLine(), false); }
 
 void TQORCalcEngine::ClearHistory()
 {
-    history_.clear();
-    historyPosition_ = -1;
+    tape_.Clear();
     pendingOperatorText_.clear();
 }
 
-void TQORCalcEngine::HistoryStart() { historyPosition_ = -1; }
+void TQORCalcEngine::HistoryStart() { tape_.Start(); }
 
-std::string TQORCalcEngine::GetNextHistoryEntry()
-{
-    // 64-bit arithmetic: a host may store any position, INT32_MAX included. A position below
-    // the start reads from the first line.
-    const std::int64_t next = std::max<std::int64_t>(historyPosition_, -1) + 1;
-    if (next >= static_cast<std::int64_t>(history_.size()))
-        return {};
-    historyPosition_ = static_cast<std::int32_t>(next);
-    return history_[static_cast<std::size_t>(next)];
-}
+std::string TQORCalcEngine::GetNextHistoryEntry() { return tape_.Next(); }
 
 std::string TQORCalcEngine::GetHistoryEntry(std::uint16_t Index) const
 {
-    return Index < history_.size() ? history_[Index] : std::string();
+    const std::string* line = tape_.At(Index);
+    return line ? *line : std::string();
 }
 
 std::string TQORCalcEngine::GetLastHistoryEntry() const
 {
-    return history_.empty() ? std::string() : history_.back();
+    const std::string* line = tape_.Last();
+    return line ? *line : std::string();
 }
 
-std::int32_t TQORCalcEngine::GetHistoryLength() const noexcept
-{
-    return static_cast<std::int32_t>(history_.size());
-}
+std::int32_t TQORCalcEngine::GetHistoryLength() const noexcept { return tape_.Length(); }
 
 // ---- Named keys ----------------------------------------------------------------------------
 

@@ -14,6 +14,7 @@
 // operation, and no NaN or infinity ever reaches the display, the tape or a returned value.
 #pragma once
 
+#include "QORKITEngineToolkit.h"
 #include "QORKITTypes.h"
 
 #include <cstdint>
@@ -101,8 +102,8 @@ public:
     void PushOperandStack(Extended Value);
     void PushOperatorStack(char Op);
     // Number of operands and pending operators on the stacks.
-    int GetOperandCount() const noexcept { return operandTop_ + 1; }
-    int GetOperatorCount() const noexcept { return operatorTop_ + 1; }
+    int GetOperandCount() const noexcept { return operands_.Count(); }
+    int GetOperatorCount() const noexcept { return operators_.Count(); }
 
     // ---- Functions, toggles and angle mode -------------------------------------------------
 
@@ -190,9 +191,9 @@ public:
     std::string GetLastHistoryEntry() const;
     std::int32_t GetHistoryLength() const noexcept;
     // HistoryPosition property: the read cursor, -1 before the first line.
-    std::int32_t GetHistoryPosition() const noexcept { return historyPosition_; }
-    void SetHistoryPosition(std::int32_t Value) { historyPosition_ = Value; }
-    const std::vector<std::string>& GetHistory() const noexcept { return history_; }
+    std::int32_t GetHistoryPosition() const noexcept { return tape_.Position(); }
+    void SetHistoryPosition(std::int32_t Value) { tape_.SetPosition(Value); }
+    const std::vector<std::string>& GetHistory() const noexcept { return tape_.Lines(); }
 
     // ---- Settings --------------------------------------------------------------------------
     // Plain stores: setting one neither re-formats the display nor fires an event.
@@ -305,10 +306,8 @@ private:
     bool isInv_ = false;
     bool isHyp_ = false;
     Extended memory_ = 0;
-    std::int32_t operandTop_ = -1;
-    TQORFloatVector operandStack_;
-    std::int32_t operatorTop_ = -1;
-    std::vector<char> operatorStack_;
+    engine_internal::TQOREvalStack<Extended> operands_;
+    engine_internal::TQOREvalStack<char> operators_;
     bool sciUsage_ = false;
     bool sciRange_ = false;
     Extended sciMin_ = 0.0001L;
@@ -321,8 +320,7 @@ private:
     bool precedence_ = true;
     bool memoryHistory_ = false;
     bool trimTrailingZeroes_ = false;
-    std::vector<std::string> history_;
-    std::int32_t historyPosition_ = -1;
+    engine_internal::TQORTapeStore tape_;
     std::uint8_t maxDisplayLength_ = 26;
     bool enableGrads_ = false;
     TNotifyEvent onClearToggles_;
@@ -335,7 +333,7 @@ private:
     TNotifyEvent onAngleModeChange_;
     std::string pendingOperatorText_;
     bool operatorSameLine_ = false;
-    int guardDepth_ = 0; // nesting of guarded operations; only the outermost one catches
+    engine_internal::TQORErrorGuard guard_;
     bool quiet_ = false;
 };
 

@@ -2,6 +2,7 @@
 
 #include "QORKITSettings.h"
 #include "QORKITTapeModel.h"
+#include "QORKITTranslation.h"
 #include "QORKIT_RS_Dialogs.h"
 
 #include <QAccessible>
@@ -89,8 +90,6 @@ const TQORCharKey CommonCharKeys[] = {
     {'*', "MultiplyBtn"},    {'/', "DivideBtn"},
 };
 
-QString ToQ(const std::string& s) { return QString::fromStdString(s); }
-
 // The character a key event types, as the keyboard preview sees it: the control keys as
 // their classic codes, printable ASCII as itself, 0 for anything else.
 char CharOf(const QKeyEvent& event)
@@ -167,10 +166,10 @@ QToolButton* TQORCalcFormBase::NewKey(const TQORKeyLook& look)
     }
     keyTexts_.push_back({button, look});
     if (look.Caption != nullptr)
-        button->setText(ToQ(look.Caption()));
+        button->setText(ToQString(look.Caption()));
     FitKeyCaption(button);
     if (look.Hint != nullptr)
-        button->setToolTip(ToQ(look.Hint()));
+        button->setToolTip(ToQString(look.Hint()));
     return button;
 }
 
@@ -222,36 +221,36 @@ void TQORCalcFormBase::UpdateLanguage()
 {
     // A caption the host set stays; the form's own one follows the language.
     const bool ownTitle = windowTitle().isEmpty() || windowTitle() == defaultTitle_;
-    defaultTitle_ = ToQ(rsCalculator());
+    defaultTitle_ = ToQString(rsCalculator());
     if (ownTitle)
         setWindowTitle(defaultTitle_);
     if (TapeView != nullptr) {
-        TapeView->setToolTip(ToQ(rsTapeHint()));
+        TapeView->setToolTip(ToQString(rsTapeHint()));
         for (auto* action : TapeView->actions())
-            action->setText(ToQ(rsTapeCopy()));
+            action->setText(ToQString(rsTapeCopy()));
     }
     for (const auto& key : keyTexts_) {
         if (key.Look.Caption != nullptr)
-            key.Button->setText(ToQ(key.Look.Caption()));
+            key.Button->setText(ToQString(key.Look.Caption()));
         if (key.Look.Hint != nullptr)
-            key.Button->setToolTip(ToQ(key.Look.Hint()));
+            key.Button->setToolTip(ToQString(key.Look.Hint()));
     }
-    ValueDisplay->setToolTip(ToQ(rsValueHint()));
-    MemoryDisplay->setToolTip(ToQ(rsMemoryHint()));
+    ValueDisplay->setToolTip(ToQString(rsValueHint()));
+    MemoryDisplay->setToolTip(ToQString(rsMemoryHint()));
     for (const auto& key : keyTexts_) {
         const std::string name = key.Button->objectName().toStdString();
-        key.Button->setAccessibleName(ToQ(KeyAccessibleName(name, ProgrammersKeys())));
+        key.Button->setAccessibleName(ToQString(KeyAccessibleName(name, ProgrammersKeys())));
         key.Button->setAccessibleDescription(
-            ToQ(KeyAccessibleDescription(name, ProgrammersKeys())));
+            ToQString(KeyAccessibleDescription(name, ProgrammersKeys())));
     }
-    ValueDisplay->setAccessibleName(ToQ(rsDisplayAccName()));
-    ValueDisplay->setAccessibleDescription(ToQ(rsDisplayAccDescription()));
-    MemoryDisplay->setAccessibleName(ToQ(rsMemoryAccName()));
-    MemoryDisplay->setAccessibleDescription(ToQ(rsMemoryAccDescription()));
-    KeyPanel->setAccessibleName(ToQ(rsCalculator()));
+    ValueDisplay->setAccessibleName(ToQString(rsDisplayAccName()));
+    ValueDisplay->setAccessibleDescription(ToQString(rsDisplayAccDescription()));
+    MemoryDisplay->setAccessibleName(ToQString(rsMemoryAccName()));
+    MemoryDisplay->setAccessibleDescription(ToQString(rsMemoryAccDescription()));
+    KeyPanel->setAccessibleName(ToQString(rsCalculator()));
     if (TapeView != nullptr) {
-        TapeView->setAccessibleName(ToQ(rsTapeHint()));
-        TapeView->setAccessibleDescription(ToQ(rsTapeAccDescription()));
+        TapeView->setAccessibleName(ToQString(rsTapeHint()));
+        TapeView->setAccessibleDescription(ToQString(rsTapeAccDescription()));
     }
     FitKeyCaptions();
 }
@@ -393,11 +392,11 @@ void TQORCalcFormBase::SetTapeModel(TQORTapeModel* model)
     TapeView->setSelectionMode(QAbstractItemView::ExtendedSelection);
     TapeView->setEditTriggers(QAbstractItemView::NoEditTriggers);
     TapeView->setFocusPolicy(Qt::StrongFocus);
-    TapeView->setToolTip(ToQ(rsTapeHint()));
-    TapeView->setAccessibleName(ToQ(rsTapeHint()));
-    TapeView->setAccessibleDescription(ToQ(rsTapeAccDescription()));
+    TapeView->setToolTip(ToQString(rsTapeHint()));
+    TapeView->setAccessibleName(ToQString(rsTapeHint()));
+    TapeView->setAccessibleDescription(ToQString(rsTapeAccDescription()));
     TapeView->hide();
-    auto* copy = new QAction(ToQ(rsTapeCopy()), TapeView);
+    auto* copy = new QAction(ToQString(rsTapeCopy()), TapeView);
     copy->setObjectName(QStringLiteral("TapeCopyAction"));
     connect(copy, &QAction::triggered, model, [model] { model->CopyToClipboard(); });
     TapeView->addAction(copy);
@@ -692,8 +691,8 @@ void TQORCalcFormBase::showEvent(QShowEvent* event)
 // ---- Components ------------------------------------------------------------------------------
 
 TQORCalcComponent::TQORCalcComponent(QObject* owner)
-    : QObject(owner), colorSet_(new TQOREditColorSet(this)), title_(ToQ(rsCalculator())),
-      exitHint_(ToQ(rsExitHint()))
+    : QObject(owner), colorSet_(new TQOREditColorSet(this)), title_(ToQString(rsCalculator())),
+      exitHint_(ToQString(rsExitHint()))
 { }
 
 TQORCalcComponent::~TQORCalcComponent()
@@ -928,7 +927,7 @@ bool TQORCalcComponent::RunDialog()
     StartCalculator(*form);
     form->exec();
     const bool accepted = !form->GetCancelled();
-    lastError_ = ToQ(form->GetLastError());
+    lastError_ = ToQString(form->GetLastError());
     if (accepted) {
         displayText_ = form->DisplayText(form->ValueDisplay);
         ReadBack(*form);

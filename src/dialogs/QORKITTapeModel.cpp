@@ -1,5 +1,7 @@
 #include "QORKITTapeModel.h"
 
+#include "QORKITTranslation.h"
+
 #include <QClipboard>
 #include <QFile>
 #include <QGuiApplication>
@@ -13,8 +15,6 @@
 namespace qorkit {
 
 namespace {
-
-QString ToQ(const std::string& text) { return QString::fromStdString(text); }
 
 // Puts `call` behind whatever handler the engine has for an event; the model may go first.
 template<class Engine, class Handler>
@@ -83,7 +83,7 @@ QVariant TQORTapeModel::data(const QModelIndex& index, int role) const
     const TQORTapeRow& row = rows_[static_cast<std::size_t>(index.row())];
     switch (role) {
     case TextRole:
-        return ToQ(row.Text);
+        return ToQString(row.Text);
     case NumberRole:
         if (!row.Number)
             return {};
@@ -91,11 +91,11 @@ QVariant TQORTapeModel::data(const QModelIndex& index, int role) const
             return QVariant::fromValue(static_cast<qlonglong>(*row.Number));
         return QVariant::fromValue(static_cast<double>(*row.Number));
     case OperatorRole:
-        return ToQ(row.Operator);
+        return ToQString(row.Operator);
     case KindRole:
-        return ToQ(std::string(TapeRowKindName(row.Kind)));
+        return ToQString(std::string(TapeRowKindName(row.Kind)));
     case NumberTextRole:
-        return ToQ(row.NumberText);
+        return ToQString(row.NumberText);
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(Qt::Alignment(Qt::AlignRight | Qt::AlignVCenter));
     default:
@@ -112,9 +112,9 @@ QHash<int, QByteArray> TQORTapeModel::roleNames() const
             {NumberTextRole, "numberText"}};
 }
 
-QString TQORTapeModel::ToText() const { return ToQ(TapeToText(rows_)); }
+QString TQORTapeModel::ToText() const { return ToQString(TapeToText(rows_)); }
 
-QString TQORTapeModel::ToCsv() const { return ToQ(TapeToCsv(rows_)); }
+QString TQORTapeModel::ToCsv() const { return ToQString(TapeToCsv(rows_)); }
 
 void TQORTapeModel::CopyToClipboard() const
 {

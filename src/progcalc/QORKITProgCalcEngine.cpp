@@ -34,7 +34,6 @@ constexpr std::array<std::array<int, 4>, 4> kGroupWidths {
     {{0, 8, 16, 32}, {0, 0, 0, 0}, {0, 2, 4, 8}, {0, 3, 6, 12}}};
 
 constexpr int kMaxDecimalEntry = 20; // characters of a decimal entry, sign included
-constexpr std::size_t kInitialStack = 10;
 
 // Keys after which "+" and "-" are signs, and after which a base change must not complete
 // the calculation.
@@ -291,10 +290,8 @@ TQORProgCalcEngine::TQORProgCalcEngine()
     lastKey_ = ' ';
     lastError_.clear();
     maxDisplayLength_ = 26;
-    operandTop_ = -1;
-    operands_.assign(kInitialStack, 0);
-    operatorTop_ = -1;
-    operators_.assign(kInitialStack, ' ');
+    operands_.Clear();
+    operators_.Clear();
     ClearHistory();
     precedence_ = true;
     memoryHistory_ = false;
@@ -527,7 +524,7 @@ std::int64_t TQORProgCalcEngine::GetDisplayValue()
     UpdateValues();
     if (!entry_.empty())
         return value_;
-    return operandTop_ >= 0 ? operands_[static_cast<std::size_t>(operandTop_)] : 0;
+    return !operands_.Empty() ? operands_.Top() : 0;
 }
 
 // The value's text in one base, grouped with that base's widths whatever the current base is.
@@ -539,8 +536,8 @@ std::string TQORProgCalcEngine::DisplayValueIn(TQORBaseDisplay textBase)
     std::string s;
     if (!entry_.empty()) {
         s = textBase == bdHexadecimal ? ValueText(tbHex) : ValueText(tbOct);
-    } else if (operandTop_ >= 0) {
-        const std::string hex = Int2EHex(operands_[static_cast<std::size_t>(operandTop_)]);
+    } else if (!operands_.Empty()) {
+        const std::string hex = Int2EHex(operands_.Top());
         s = textBase == bdHexadecimal ? hex : textBase == bdOctal ? Hex2Oct(hex) : Hex2Bin(hex);
     }
     return GroupedFor(textBase, std::move(s));
@@ -549,6 +546,13 @@ std::string TQORProgCalcEngine::DisplayValueIn(TQORBaseDisplay textBase)
 std::string TQORProgCalcEngine::GetDisplayValueHex() { return DisplayValueIn(bdHexadecimal); }
 std::string TQORProgCalcEngine::GetDisplayValueOct() { return DisplayValueIn(bdOctal); }
 std::string TQORProgCalcEngine::GetDisplayValueBin() { return DisplayValueIn(bdBinary); }
+
+// Runs one operation; see TQORErrorGuard.
+template<class Body> void TQORProgCalcEngine::Guarded(Body&& body)
+{
+    guard_.Run(std::forward<Body>(body),
+               [this](const std::string& message) { HandleError(message); });
+}
 
 // ---- Entry ---------------------------------------------------------------------------------
 
@@ -599,16 +603,7 @@ void TQORProgCalcEngine::Numeric(char ch)
         if (static_cast<int>(entry_.size()) < limit)
             entry_ += ch;
     }
-    // Sign clean-up: "--" and "-+" cancel, "+-" is a minus.
-    static constexpr std::array<std::pair<std::string_view, std::string_view>, 3> kSigns {
-        {{"--", ""}, {"-+", ""}, {"+-", "-"}}};
-    if (std::any_of(entry_.begin(), entry_.end(), [](char c) { return c == '+' || c == '-'; })) {
-        for (const auto& [from, to] : kSigns) {
-            for (std::size_t at = entry_.find(from); at != std::string::npos;
-                 at = entry_.find(from, at + to.size()))
-                entry_.replace(at, from.size(), to);
-        }
-    }
+    engine_internal::CleanSigns(entry_);
     SetDisplayValue(entry_);
     lastKey_ = ch;
 }
@@ -631,15 +626,13 @@ void TQORProgCalcEngine::InputBackspace()
 
 void TQORProgCalcEngine::InputString(const std::string& s)
 {
-    try {
+    Guarded([&] {
         entry_ = s;
         UpdateValues();
         entry_.clear();
         PushOperandStack(value_);
         lastKey_ = ' ';
-    } catch (const std::exception& e) {
-        HandleError(e.what());
-    }
+    });
 }
 
 void TQORProgCalcEngine::InputValue(std::int64_t v)
@@ -661,8 +654,8 @@ void TQORProgCalcEngine::ClearDisplay()
 
 void TQORProgCalcEngine::AllClear()
 {
-    operandTop_ = -1;
-    operatorTop_ = -1;
+    operands_.Clear();
+    operators_.Clear();
     entry_.clear();
     value_ = 0;
     SetDisplayValue0();
@@ -673,19 +666,9 @@ void TQORProgCalcEngine::AllClear()
 
 // ---- Stacks and evaluation -----------------------------------------------------------------
 
-void TQORProgCalcEngine::PushOperandStack(std::int64_t v)
-{
-    if (operandTop_ + 1 >= static_cast<std::int32_t>(operands_.size()))
-        operands_.resize(static_cast<std::size_t>(operandTop_) + 5);
-    operands_[static_cast<std::size_t>(++operandTop_)] = v;
-}
+void TQORProgCalcEngine::PushOperandStack(std::int64_t v) { operands_.Push(v); }
 
-void TQORProgCalcEngine::PushOperatorStack(char ch)
-{
-    if (operatorTop_ + 1 >= static_cast<std::int32_t>(operators_.size()))
-        operators_.resize(static_cast<std::size_t>(operatorTop_) + 5);
-    operators_[static_cast<std::size_t>(++operatorTop_)] = ch;
-}
+void TQORProgCalcEngine::PushOperatorStack(char ch) { operators_.Push(ch); }
 
 void TQORProgCalcEngine::SetSizeValueA(std::int64_t v)
 {
@@ -698,10 +681,9 @@ void TQORProgCalcEngine::SetSizeValueA(std::int64_t v)
 
 void TQORProgCalcEngine::SetSizeValues()
 {
-    SetSizeValueA(operandTop_ >= 0 ? operands_[static_cast<std::size_t>(operandTop_)] : 0);
-    if (operandTop_ >= 1)
-        LoadSlotOfSize(bitSize_, operands_[static_cast<std::size_t>(operandTop_ - 1)], byteB_,
-                       wordB_, longB_, int64B_);
+    SetSizeValueA(!operands_.Empty() ? operands_.Top() : 0);
+    if (operands_.Count() >= 2)
+        LoadSlotOfSize(bitSize_, operands_.Below(1), byteB_, wordB_, longB_, int64B_);
 }
 
 std::int64_t TQORProgCalcEngine::OperandA() const
@@ -749,26 +731,25 @@ bool TQORProgCalcEngine::HigherPrecedence(char newOp, char topOp) const
 void TQORProgCalcEngine::StackManipulation()
 {
     SetSizeValues();
-    const char op = operators_[static_cast<std::size_t>(operatorTop_)];
-    if (Contains(kBinaryOperators, op) && operandTop_ >= 0) {
-        const auto top = static_cast<std::size_t>(operandTop_);
+    const char op = operators_.Top();
+    if (Contains(kBinaryOperators, op) && !operands_.Empty()) {
         if (op == '/' || op == '%') {
             // The processor's division fault covers a divisor whose word-size part is zero.
-            if (operands_[top] == 0 || OperandA() == 0)
+            if (operands_.Top() == 0 || OperandA() == 0)
                 throw EZeroDivide(rsDivideByZero());
         }
         const std::int64_t result = Compute(op);
         // With a single operand the left-hand side is 0 and the result stays the only operand.
-        if (operandTop_ >= 1) {
-            operands_[top - 1] = result;
-            --operandTop_;
+        if (operands_.Count() >= 2) {
+            operands_.Below(1) = result;
+            operands_.Drop();
         } else {
-            operands_[top] = result;
+            operands_.Top() = result;
         }
-    } else if (op == '~' && operandTop_ >= 0) {
-        operands_[static_cast<std::size_t>(operandTop_)] = ~OperandA();
+    } else if (op == '~' && !operands_.Empty()) {
+        operands_.Top() = ~OperandA();
     }
-    --operatorTop_;
+    operators_.Drop();
 }
 
 void TQORProgCalcEngine::UpdateValue()
@@ -783,8 +764,8 @@ void TQORProgCalcEngine::UpdateValue()
 
 void TQORProgCalcEngine::ShowTopOperand()
 {
-    if (operandTop_ >= 0)
-        ConvertValues(operands_[static_cast<std::size_t>(operandTop_)]);
+    if (!operands_.Empty())
+        ConvertValues(operands_.Top());
     else
         SetDisplayValue0();
 }
@@ -792,44 +773,36 @@ void TQORProgCalcEngine::ShowTopOperand()
 void TQORProgCalcEngine::Arithmetic(char op)
 {
     if (baseDisplay_ == bdDecimal && (op == '+' || op == '-')
-        && ((entry_.empty() && operandTop_ < 0) || Contains(kOperatorKeys, lastKey_)
+        && ((entry_.empty() && operands_.Empty()) || Contains(kOperatorKeys, lastKey_)
             || Contains(kFunctionLetters, lastKey_))) {
         Numeric(op); // a sign of the number being typed
         return;
     }
-    try {
+    Guarded([&] {
         UpdateValue();
-        while (operatorTop_ >= 0
-               && !HigherPrecedence(op, operators_[static_cast<std::size_t>(operatorTop_)]))
+        while (!operators_.Empty() && !HigherPrecedence(op, operators_.Top()))
             StackManipulation();
         PushOperatorStack(op);
         ShowTopOperand();
-    } catch (const std::exception& e) {
-        HandleError(e.what());
-    }
+    });
     AddToHistory(OperatorHistoryText(op));
     lastKey_ = op;
 }
 
 void TQORProgCalcEngine::DoResult()
 {
-    try {
+    Guarded([&] {
         UpdateValue();
-        while (operatorTop_ >= 0)
+        while (!operators_.Empty())
             StackManipulation();
-        if (operandTop_ > 0) {
-            operands_[0] = operands_[static_cast<std::size_t>(operandTop_)];
-            operandTop_ = 0;
-        }
-        if (operandTop_ < 0) {
+        operands_.KeepTopOnly();
+        if (operands_.Empty()) {
             if (display_.find(rsErrorMsg()) == std::string::npos)
                 SetDisplayValue0();
         } else {
-            ConvertValues(operands_[0]);
+            ConvertValues(operands_.Bottom());
         }
-    } catch (const std::exception& e) {
-        HandleError(e.what());
-    }
+    });
 }
 
 void TQORProgCalcEngine::DoEquals()
@@ -856,16 +829,14 @@ void TQORProgCalcEngine::InputLeftBracket()
 
 void TQORProgCalcEngine::InputRightBracket()
 {
-    try {
+    Guarded([&] {
         UpdateValue();
-        while (operatorTop_ >= 0 && operators_[static_cast<std::size_t>(operatorTop_)] != '(')
+        while (!operators_.Empty() && operators_.Top() != '(')
             StackManipulation();
-        if (operatorTop_ >= 0)
-            --operatorTop_;
+        if (!operators_.Empty())
+            operators_.Drop();
         ShowTopOperand();
-    } catch (const std::exception& e) {
-        HandleError(e.what());
-    }
+    });
     AddToHistory(std::string(")"));
     lastKey_ = ')';
 }
@@ -890,15 +861,15 @@ void TQORProgCalcEngine::Notify(const TQORProgCalcNotifyEvent& handler)
 void TQORProgCalcEngine::UnaryKey(const std::function<std::int64_t(std::int64_t)>& compute,
                                   const std::string& historyLine)
 {
-    try {
+    Guarded([&] {
         std::int64_t result = 0;
         if (!entry_.empty()) {
             UpdateValues();
             const std::int64_t operand = value_;
             AddToHistory(operand);
             result = compute(operand);
-        } else if (operandTop_ >= 0) {
-            result = compute(operands_[static_cast<std::size_t>(operandTop_)]);
+        } else if (!operands_.Empty()) {
+            result = compute(operands_.Top());
         }
         value_ = result;
         ConvertValues(result);
@@ -906,9 +877,7 @@ void TQORProgCalcEngine::UnaryKey(const std::function<std::int64_t(std::int64_t)
         // The result goes on top of the operand it came from: a pending two-operand operator
         // takes both (5 + NEG = gives 0). Kept.
         PushOperandStack(result);
-    } catch (const std::exception& e) {
-        HandleError(e.what());
-    }
+    });
     AddToHistory(historyLine);
     lastKey_ = ' ';
 }
@@ -1028,10 +997,10 @@ void TQORProgCalcEngine::ExtendSignBit()
         = ((textBits_ & ~(1ULL << (oldBits - 1))) & SizeMask(bitSize_)) | topBit;
     SetTexts(bits, bitSize_);
     value_ = static_cast<std::int64_t>(bits);
-    if (operandTop_ < 0)
+    if (operands_.Empty())
         entry_ = baseDisplay_ == bdDecimal ? Int2EStr(value_) : CurrentText();
     else
-        operands_[static_cast<std::size_t>(operandTop_)] = value_;
+        operands_.Top() = value_;
 }
 
 void TQORProgCalcEngine::SetBitSize(TQORBitSize value)
@@ -1116,9 +1085,8 @@ void TQORProgCalcEngine::MemoryHistoryLine()
 void TQORProgCalcEngine::MemoryChange(bool add)
 {
     DoResult();
-    if (operandTop_ >= 0) {
-        const auto top
-            = static_cast<std::uint64_t>(operands_[static_cast<std::size_t>(operandTop_)]);
+    if (!operands_.Empty()) {
+        const auto top = static_cast<std::uint64_t>(operands_.Top());
         const auto memory = static_cast<std::uint64_t>(memory_);
         memory_ = static_cast<std::int64_t>(add ? memory + top : memory - top);
     }
@@ -1157,7 +1125,7 @@ void TQORProgCalcEngine::SetMemory(std::int64_t v)
 
 void TQORProgCalcEngine::AddToHistory(const std::string& s)
 {
-    history_.push_back(s);
+    tape_.Add(s);
     Notify(onHistoryChange_);
 }
 
@@ -1165,34 +1133,23 @@ void TQORProgCalcEngine::AddToHistory(std::int64_t v) { AddToHistory(DisplayValu
 
 void TQORProgCalcEngine::PaperLine() { AddToHistory(rsPaperLine()); }
 
-void TQORProgCalcEngine::ClearHistory()
-{
-    history_.clear();
-    historyPosition_ = -1;
-}
+void TQORProgCalcEngine::ClearHistory() { tape_.Clear(); }
 
-std::string TQORProgCalcEngine::GetNextHistoryEntry()
-{
-    if (history_.empty() || historyPosition_ >= GetHistoryLength() - 1)
-        return {};
-    historyPosition_ = std::max(historyPosition_, -1) + 1;
-    return history_[static_cast<std::size_t>(historyPosition_)];
-}
+std::string TQORProgCalcEngine::GetNextHistoryEntry() { return tape_.Next(); }
 
 // Lines keep the spacing of the moment they were written; they are shown in the current one.
 // Words are regrouped too.
 std::string TQORProgCalcEngine::GetHistoryEntry(std::uint16_t index) const
 {
-    if (index >= history_.size())
-        return {};
-    return Spaced(RemoveGroupSpacing(history_[index], ' '));
+    const std::string* line = tape_.At(index);
+    return line ? Spaced(RemoveGroupSpacing(*line, ' ')) : std::string();
 }
 
 std::string TQORProgCalcEngine::GetLastHistoryEntry() const
 {
-    if (history_.empty())
+    if (!tape_.Last())
         return {};
-    const std::string& line = history_.back();
+    const std::string& line = *tape_.Last();
     if (line.empty() || !std::isxdigit(static_cast<unsigned char>(line.front())))
         return line;
     for (TTextFn sizeName : kBitSizeTexts)
@@ -1201,10 +1158,7 @@ std::string TQORProgCalcEngine::GetLastHistoryEntry() const
     return Spaced(RemoveGroupSpacing(line, ' '));
 }
 
-std::int32_t TQORProgCalcEngine::GetHistoryLength() const
-{
-    return static_cast<std::int32_t>(history_.size());
-}
+std::int32_t TQORProgCalcEngine::GetHistoryLength() const { return tape_.Length(); }
 
 // ---- Named keys ------------------------------------------------------------------------------
 

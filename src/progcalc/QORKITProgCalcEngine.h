@@ -13,6 +13,7 @@
 // an engine through its TQORProgCalcEngineObject (QORKITEngineObjects.h) instead.
 #pragma once
 
+#include "QORKITEngineToolkit.h"
 #include "QORKITTypes.h"
 
 #include <cstdint>
@@ -222,13 +223,13 @@ public:
     bool GetMemoryHistory() const override { return memoryHistory_; }
 
     void ClearHistory() override;
-    void HistoryStart() override { historyPosition_ = -1; }
+    void HistoryStart() override { tape_.Start(); }
     std::string GetNextHistoryEntry() override;
     std::string GetHistoryEntry(std::uint16_t index) const override;
     std::string GetLastHistoryEntry() const override;
     std::int32_t GetHistoryLength() const override;
-    std::int32_t GetHistoryPosition() const override { return historyPosition_; }
-    void SetHistoryPosition(std::int32_t value) override { historyPosition_ = value; }
+    std::int32_t GetHistoryPosition() const override { return tape_.Position(); }
+    void SetHistoryPosition(std::int32_t value) override { tape_.SetPosition(value); }
     void PaperLine() override;
 
     std::uint8_t GetMaxDisplayLength() const override { return maxDisplayLength_; }
@@ -296,6 +297,7 @@ private:
     void MemoryChange(bool add);
     void MemoryHistoryLine();
     void ShowTopOperand();
+    template<class Body> void Guarded(Body&& body); // the one error path of an operation
     void HandleError(const std::string& message);
     void Notify(const TQORProgCalcNotifyEvent& handler);
     std::string CurrentText() const;
@@ -343,15 +345,13 @@ private:
     TQORProgSpacing spacing_ = psNoSpacing;
     TQORProgSizeChange sizeChange_ = pscClear;
     std::int64_t memory_ = 0;
-    std::int32_t operandTop_ = -1;
-    TQORInt64Vector operands_;
-    std::int32_t operatorTop_ = -1;
-    std::vector<char> operators_;
+    engine_internal::TQOREvalStack<std::int64_t> operands_;
+    engine_internal::TQOREvalStack<char> operators_;
     bool prefixFunctions_ = false;
     bool precedence_ = false;
     bool memoryHistory_ = false;
-    std::vector<std::string> history_;
-    std::int32_t historyPosition_ = -1;
+    engine_internal::TQORTapeStore tape_;
+    engine_internal::TQORErrorGuard guard_;
     std::uint8_t maxDisplayLength_ = 0;
 
     TQORProgCalcNotifyEvent onHistoryChange_;

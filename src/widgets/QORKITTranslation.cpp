@@ -53,11 +53,6 @@ QPointer<QTranslator>& CurrentTranslator()
     return translator;
 }
 
-QString FromUtf8(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 // The 8-bit stand-in for a locale's separator, or fallback when there is none.
 char SeparatorChar(const QString& separator, char fallback)
 {
@@ -180,11 +175,11 @@ QByteArray TranslationTemplate()
     xml.writeAttribute(QStringLiteral("sourcelanguage"), QStringLiteral("en"));
     for (const auto& module : TextModules()) {
         xml.writeStartElement(QStringLiteral("context"));
-        xml.writeTextElement(QStringLiteral("name"), FromUtf8(module.Context));
+        xml.writeTextElement(QStringLiteral("name"), ToQString(module.Context));
         for (const auto& message : DistinctMessages(module.Texts)) {
             xml.writeStartElement(QStringLiteral("message"));
-            xml.writeTextElement(QStringLiteral("source"), FromUtf8(message.Source));
-            xml.writeTextElement(QStringLiteral("extracomment"), FromUtf8(message.Names));
+            xml.writeTextElement(QStringLiteral("source"), ToQString(message.Source));
+            xml.writeTextElement(QStringLiteral("extracomment"), ToQString(message.Names));
             xml.writeStartElement(QStringLiteral("translation"));
             xml.writeAttribute(QStringLiteral("type"), QStringLiteral("unfinished"));
             xml.writeEndElement();

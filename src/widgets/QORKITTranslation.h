@@ -8,11 +8,18 @@
 
 #include <QByteArray>
 #include <QLocale>
+#include <QString>
 
 #include <span>
 #include <string_view>
 
 namespace qorkit {
+
+// A library text (UTF-8) as a QString: the one conversion the Qt layer uses.
+inline QString ToQString(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
 
 // Routes every resource-string lookup through QCoreApplication::translate(context, source),
 // so translators installed with QCoreApplication::installTranslator() translate the library.

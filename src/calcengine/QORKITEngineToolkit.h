@@ -1,0 +1,119 @@
+// Internal to the two keystroke engines (TQORCalcEngine, TQORProgCalcEngine): the pieces both
+// share. Not part of the library's interface; the header is installed only because the engine
+// headers hold these types as members.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <exception>
+#include <new>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace qorkit::engine_internal {
+
+// The one error path of an engine operation. Only the outermost guarded call catches: a fault
+// anywhere inside abandons the rest of the operation and is handed to onError with its
+// message. Out of memory is never swallowed; it always propagates to the caller.
+class TQORErrorGuard {
+public:
+    template<class Body, class OnError> void Run(Body&& body, OnError&& onError)
+    {
+        if (depth_ > 0) {
+            std::forward<Body>(body)();
+            return;
+        }
+        std::string message;
+        try {
+            const Depth depth(depth_);
+            std::forward<Body>(body)();
+            return;
+        } catch (const std::bad_alloc&) {
+            throw;
+        } catch (const std::exception& e) {
+            message = e.what();
+        }
+        std::forward<OnError>(onError)(message);
+    }
+
+private:
+    struct Depth {
+        int& depth;
+        explicit Depth(int& d) : depth(d) { ++depth; }
+        ~Depth() { --depth; }
+        Depth(const Depth&) = delete;
+        Depth& operator=(const Depth&) = delete;
+    };
+    int depth_ = 0;
+};
+
+// An evaluation stack: slots are reused, the top index is -1 when empty.
+template<class T> class TQOREvalStack {
+public:
+    TQOREvalStack() : slots_(kInitialSlots) { }
+
+    void Push(const T& value)
+    {
+        if (static_cast<std::size_t>(top_ + 1) >= slots_.size())
+            slots_.resize(static_cast<std::size_t>(top_ + 1) + kGrowth - 1); // top + 5
+        slots_[static_cast<std::size_t>(++top_)] = value;
+    }
+    T Pop() { return slots_[static_cast<std::size_t>(top_--)]; }
+    void Drop() { --top_; }
+    void Clear() noexcept { top_ = -1; }
+    // Keeps only the top item, moved to the bottom.
+    void KeepTopOnly()
+    {
+        if (top_ > 0) {
+            slots_[0] = slots_[static_cast<std::size_t>(top_)];
+            top_ = 0;
+        }
+    }
+
+    T& Top() { return slots_[static_cast<std::size_t>(top_)]; }
+    // The item `below` places under the top (0: the top itself).
+    T& Below(std::int32_t below) { return slots_[static_cast<std::size_t>(top_ - below)]; }
+    T& Bottom() { return slots_[0]; }
+    std::int32_t Count() const noexcept { return top_ + 1; }
+    bool Empty() const noexcept { return top_ < 0; }
+
+private:
+    static constexpr std::size_t kInitialSlots = 10;
+    static constexpr std::size_t kGrowth = 5;
+    std::vector<T> slots_;
+    std::int32_t top_ = -1;
+};
+
+// The lines of a paper tape and its read cursor.
+class TQORTapeStore {
+public:
+    void Add(std::string line) { lines_.push_back(std::move(line)); }
+    void Clear() noexcept
+    {
+        lines_.clear();
+        Start();
+    }
+    void Start() noexcept { position_ = -1; }
+    // The line after the cursor, moving the cursor onto it; empty past the last line.
+    std::string Next();
+    // Line `index`, or nullptr beyond the end.
+    const std::string* At(std::size_t index) const noexcept
+    {
+        return index < lines_.size() ? &lines_[index] : nullptr;
+    }
+    const std::string* Last() const noexcept { return lines_.empty() ? nullptr : &lines_.back(); }
+    std::int32_t Length() const noexcept { return static_cast<std::int32_t>(lines_.size()); }
+    std::int32_t Position() const noexcept { return position_; }
+    void SetPosition(std::int32_t value) noexcept { position_ = value; }
+    const std::vector<std::string>& Lines() const noexcept { return lines_; }
+
+private:
+    std::vector<std::string> lines_;
+    std::int32_t position_ = -1;
+};
+
+// Sign clean-up of a typed number: "--" and "-+" cancel, "+-" is a minus.
+void CleanSigns(std::string& text);
+
+} // namespace qorkit::engine_internal

@@ -1,0 +1,116 @@
+// The pieces both keystroke engines share: the guarded error path, the evaluation stack, the
+// tape store's cursor and the sign clean-up.
+#include "QORKITEngineToolkit.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <new>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace qorkit::engine_internal {
+namespace {
+
+TEST(ErrorGuard, OnlyTheOutermostCallHandlesAFault)
+{
+    TQORErrorGuard guard;
+    std::vector<std::string> handled;
+    bool restOfOuterRan = false;
+    guard.Run(
+        [&] {
+            guard.Run([] { throw std::runtime_error("inner"); },
+                      [&](const std::string& m) { handled.push_back("inner handler: " + m); });
+            restOfOuterRan = true;
+        },
+        [&](const std::string& m) { handled.push_back(m); });
+    EXPECT_EQ(handled, std::vector<std::string> {"inner"});
+    EXPECT_FALSE(restOfOuterRan);
+    // The guard is usable again after a fault.
+    guard.Run([] { throw std::runtime_error("again"); },
+              [&](const std::string& m) { handled.push_back(m); });
+    EXPECT_EQ(handled.back(), "again");
+}
+
+TEST(ErrorGuard, OutOfMemoryAlwaysPropagates)
+{
+    TQORErrorGuard guard;
+    bool handled = false;
+    EXPECT_THROW(
+        guard.Run([] { throw std::bad_alloc(); }, [&](const std::string&) { handled = true; }),
+        std::bad_alloc);
+    EXPECT_FALSE(handled);
+    // The nesting count was unwound: a later fault is handled again.
+    guard.Run([] { throw std::runtime_error("x"); }, [&](const std::string&) { handled = true; });
+    EXPECT_TRUE(handled);
+}
+
+TEST(EvalStack, GrowsPastItsFirstSlotsAndKeepsOrder)
+{
+    TQOREvalStack<int> stack;
+    for (int i = 0; i < 40; ++i)
+        stack.Push(i);
+    EXPECT_EQ(stack.Count(), 40);
+    EXPECT_EQ(stack.Below(1), 38);
+    EXPECT_EQ(stack.Pop(), 39);
+    stack.KeepTopOnly();
+    EXPECT_EQ(stack.Count(), 1);
+    EXPECT_EQ(stack.Bottom(), 38);
+    stack.Clear();
+    EXPECT_TRUE(stack.Empty());
+}
+
+struct CursorCase {
+    const char* name;
+    std::int32_t position;
+    std::string expected;
+    std::int32_t positionAfter;
+};
+
+class TapeCursor : public testing::TestWithParam<CursorCase> { };
+
+TEST_P(TapeCursor, NextReadsFromASafePosition)
+{
+    TQORTapeStore tape;
+    for (const char* line : {"a", "b", "c"})
+        tape.Add(line);
+    tape.SetPosition(GetParam().position);
+    EXPECT_EQ(tape.Next(), GetParam().expected);
+    EXPECT_EQ(tape.Position(), GetParam().positionAfter);
+}
+
+INSTANTIATE_TEST_SUITE_P(Positions, TapeCursor,
+                         testing::Values(CursorCase {"Start", -1, "a", 0},
+                                         CursorCase {"Middle", 1, "c", 2},
+                                         CursorCase {"AtLastLine", 2, "", 2},
+                                         CursorCase {"Int32Max", INT32_MAX, "", INT32_MAX},
+                                         CursorCase {"FarBelowStart", INT32_MIN, "a", 0}),
+                         [](const testing::TestParamInfo<CursorCase>& row) {
+                             return std::string(row.param.name);
+                         });
+
+struct SignCase {
+    const char* name;
+    const char* typed;
+    const char* cleaned;
+};
+
+class SignCleanUp : public testing::TestWithParam<SignCase> { };
+
+TEST_P(SignCleanUp, FoldsSignPairs)
+{
+    std::string text = GetParam().typed;
+    CleanSigns(text);
+    EXPECT_EQ(text, GetParam().cleaned);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Pairs, SignCleanUp,
+    testing::Values(SignCase {"MinusMinus", "--5", "5"}, SignCase {"MinusPlus", "-+5", "5"},
+                    SignCase {"PlusMinus", "+-5", "-5"}, SignCase {"ThreeMinus", "---5", "-5"},
+                    SignCase {"ExponentSign", "1E+-5", "1E-5"}, SignCase {"NoSigns", "12", "12"}),
+    [](const testing::TestParamInfo<SignCase>& row) { return std::string(row.param.name); });
+
+} // namespace
+} // namespace qorkit::engine_internal
