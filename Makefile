@@ -6,7 +6,8 @@ JOBS       ?= $(shell nproc)
 WERROR     ?= $(or $(QORKIT_WERROR),OFF)
 CMAKE_ARGS ?=
 
-.PHONY: all deps configure build run test sanitize bench bench-compare fuzz format format-check install clean
+.PHONY: all deps configure build run test sanitize bench bench-compare fuzz format format-check install clean \
+	designer test-shared docs
 
 all: build
 
@@ -63,6 +64,10 @@ format:
 
 format-check: deps
 	clang-format --dry-run --Werror $(FORMAT_FILES)
+
+# Qt Designer with the library's plugin from the build tree (needs a display).
+designer: configure
+	cmake --build $(BUILD) -j $(JOBS) --target designer
 
 install: build
 	cmake --install $(BUILD) --prefix $(or $(PREFIX),/usr/local)
