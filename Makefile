@@ -2,6 +2,9 @@
 BUILD      ?= build
 SAN_BUILD  ?= build-sanitize
 FUZZ_BUILD ?= build-fuzz
+SHARED_BUILD ?= build-shared
+# What the shared build compiles and runs beside the install and symbol checks.
+SHARED_TESTS ?= base_tests widgets_qttests designer_qttests
 JOBS       ?= $(shell nproc)
 WERROR     ?= $(or $(QORKIT_WERROR),OFF)
 CMAKE_ARGS ?=
@@ -68,6 +71,22 @@ format-check: deps
 # Qt Designer with the library's plugin from the build tree (needs a display).
 designer: configure
 	cmake --build $(BUILD) -j $(JOBS) --target designer
+
+# The shared libraries (-DBUILD_SHARED_LIBS=ON): SONAMEs and exported symbols, the installed
+# package's consumer, the Designer plugin and a few test programs against the .so files.
+test-shared: deps
+	cmake -S . -B $(SHARED_BUILD) -G Ninja -DQORKIT_WERROR=$(WERROR) -DBUILD_SHARED_LIBS=ON \
+	    -DQORKIT_BUILD_BENCH=OFF $(CMAKE_ARGS)
+	cmake --build $(SHARED_BUILD) -j $(JOBS) --target qorkit_base qorkit_core qorkit_widgets \
+	    qorkit_designer qorcalc qorcalc_man qorkit-gallery designer_uic_form $(SHARED_TESTS)
+	cd $(SHARED_BUILD) && ctest --output-on-failure -L install -R '^(install|shared)\.' --timeout 600
+	cd $(SHARED_BUILD) && ctest --output-on-failure -R '^designer\.' --timeout 600
+	@for t in $(SHARED_TESTS); do f=$$(find $(SHARED_BUILD)/tests -name $$t -type f | head -1); \
+	    echo "== $$f"; QT_QPA_PLATFORM=offscreen $$f --gtest_brief=1 || exit 1; done
+
+# The API reference: <build>/docs/html/index.html.
+docs: configure
+	cmake --build $(BUILD) -j $(JOBS) --target docs
 
 install: build
 	cmake --install $(BUILD) --prefix $(or $(PREFIX),/usr/local)

@@ -111,13 +111,14 @@ inline std::string ConversionRoutinesHeader()
 #pragma once
 
 #include "QORKITTypes.h"
+#include "qorkit_core_export.h"
 
 namespace qorkit {
 )";
     for (const auto& group : ConversionRoutineGroups()) {
         text += "\n// " + std::string(group.Title) + "\n";
         for (const auto& name : group.Names)
-            text += "Extended " + name + "(Extended value);\n";
+            text += "QORKIT_CORE_EXPORT Extended " + name + "(Extended value);\n";
     }
     text += "\n} // namespace qorkit\n";
     return text;

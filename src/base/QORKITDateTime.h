@@ -8,30 +8,33 @@
 #pragma once
 
 #include "QORKITTypes.h"
+#include "qorkit_base_export.h"
 
 #include <cstdint>
 
 namespace qorkit {
 
 // Raises EConvertError (rsInvalidDate) for an impossible date (year 1..9999).
-TDateTime EncodeDate(int year, int month, int day);
+QORKIT_BASE_EXPORT TDateTime EncodeDate(int year, int month, int day);
 // Raises EConvertError for hours > 23, minutes or seconds > 59, milliseconds > 999, or a
 // negative part.
-TDateTime EncodeTime(int hour, int minute, int second, int millisecond);
+QORKIT_BASE_EXPORT TDateTime EncodeTime(int hour, int minute, int second, int millisecond);
 // Raises EConvertError (rsInvalidDate) outside 0001-01-01 .. 9999-12-31.
-void DecodeDate(TDateTime dateTime, int& year, int& month, int& day);
+QORKIT_BASE_EXPORT void DecodeDate(TDateTime dateTime, int& year, int& month, int& day);
 // The time is rounded to the millisecond; one that would round up to midnight is given as
 // 23:59:59.999, so that it stays on the day DecodeDate gives.
-void DecodeTime(TDateTime dateTime, int& hour, int& minute, int& second, int& millisecond);
+QORKIT_BASE_EXPORT void DecodeTime(TDateTime dateTime, int& hour, int& minute, int& second,
+                                   int& millisecond);
 // Year, month and day of a date-time as 32-bit integers (no range check of the result: years
 // before 1 are astronomical, 0 is 1 BC). Only values whose year does not fit 32 bits raise.
-void OptDecodeDateI(TDateTime dateTime, std::int32_t& year, std::int32_t& month, std::int32_t& day);
+QORKIT_BASE_EXPORT void OptDecodeDateI(TDateTime dateTime, std::int32_t& year, std::int32_t& month,
+                                       std::int32_t& day);
 // 1 for Sunday ... 7 for Saturday.
-int DayOfWeek(TDateTime dateTime);
+QORKIT_BASE_EXPORT int DayOfWeek(TDateTime dateTime);
 // Day of week 1 = Sunday .. 7 = Saturday to ISO 1 = Monday .. 7 = Sunday; no range check.
-int DOW2ISODOWFast(int dayOfWeek) noexcept;
-bool IsLeapYear(int year) noexcept;
+QORKIT_BASE_EXPORT int DOW2ISODOWFast(int dayOfWeek) noexcept;
+QORKIT_BASE_EXPORT bool IsLeapYear(int year) noexcept;
 // The current local date and time.
-TDateTime Now();
+QORKIT_BASE_EXPORT TDateTime Now();
 
 } // namespace qorkit

@@ -32,6 +32,7 @@
 #pragma once
 
 #include "QORKITTypes.h"
+#include "qorkit_base_export.h"
 
 #include <cstdint>
 
@@ -39,88 +40,92 @@ namespace qorkit {
 
 inline constexpr Extended QORFloatTolerance = 1e-15L;
 
-bool FloatIsZero(Extended x) noexcept;
-bool FloatIsNegative(Extended x) noexcept;
-bool FloatIsPositive(Extended x) noexcept;
-bool SameFloat(Extended a, Extended b) noexcept;
+QORKIT_BASE_EXPORT bool FloatIsZero(Extended x) noexcept;
+QORKIT_BASE_EXPORT bool FloatIsNegative(Extended x) noexcept;
+QORKIT_BASE_EXPORT bool FloatIsPositive(Extended x) noexcept;
+QORKIT_BASE_EXPORT bool SameFloat(Extended a, Extended b) noexcept;
 
 // Raises EOverflow / EInvalidOp unless x is finite; returns x. The guard every routine uses.
-Extended CheckFloat(Extended x);
+QORKIT_BASE_EXPORT Extended CheckFloat(Extended x);
 
-Extended AbsXY(Extended x, Extended y); // sqrt(x^2 + y^2) without intermediate overflow
-Extended XtoY(Extended x, Extended y);
-Extended Pow2(Extended x); // 2^x
-Extended QORLog10(Extended x);
-Extended QORLog2(Extended x);
-Extended QORLn(Extended x);
-Extended QORExp(Extended x);
-Extended QORSqrt(Extended x); // negative: EInvalidOp with rsSqRootNeg
-Extended QORMod(Extended x, Extended y);
-Extended QORRem(Extended x, Extended y);
-Extended QORDiv(Extended x, Extended y);
-Extended QORIntDiv(Extended x, Extended y);
-Extended QORFloor(Extended x);
-Extended QORCeil(Extended x);
-Extended QORSign(Extended x); // -1, 0 or 1
-Extended Gamma(Extended x); // poles (0, -1, -2 ...) raise EInvalidOp
-Extended LnGamma(Extended x); // ln |Gamma(x)|
-Extended RoundDP(Extended x, std::int32_t places);
+QORKIT_BASE_EXPORT Extended AbsXY(Extended x,
+                                  Extended y); // sqrt(x^2 + y^2) without intermediate overflow
+QORKIT_BASE_EXPORT Extended XtoY(Extended x, Extended y);
+QORKIT_BASE_EXPORT Extended Pow2(Extended x); // 2^x
+QORKIT_BASE_EXPORT Extended QORLog10(Extended x);
+QORKIT_BASE_EXPORT Extended QORLog2(Extended x);
+QORKIT_BASE_EXPORT Extended QORLn(Extended x);
+QORKIT_BASE_EXPORT Extended QORExp(Extended x);
+QORKIT_BASE_EXPORT Extended QORSqrt(Extended x); // negative: EInvalidOp with rsSqRootNeg
+QORKIT_BASE_EXPORT Extended QORMod(Extended x, Extended y);
+QORKIT_BASE_EXPORT Extended QORRem(Extended x, Extended y);
+QORKIT_BASE_EXPORT Extended QORDiv(Extended x, Extended y);
+QORKIT_BASE_EXPORT Extended QORIntDiv(Extended x, Extended y);
+QORKIT_BASE_EXPORT Extended QORFloor(Extended x);
+QORKIT_BASE_EXPORT Extended QORCeil(Extended x);
+QORKIT_BASE_EXPORT Extended QORSign(Extended x); // -1, 0 or 1
+QORKIT_BASE_EXPORT Extended Gamma(Extended x); // poles (0, -1, -2 ...) raise EInvalidOp
+QORKIT_BASE_EXPORT Extended LnGamma(Extended x); // ln |Gamma(x)|
+QORKIT_BASE_EXPORT Extended RoundDP(Extended x, std::int32_t places);
 
 // Trigonometry in radians.
-Extended QORSin(Extended x);
-Extended QORCos(Extended x);
-Extended QORTan(Extended x);
-void QORSinCos(Extended x, Extended& sinValue, Extended& cosValue);
-Extended QORArcSin(Extended x); // |x| > 1: EInvalidOp
-Extended QORArcCos(Extended x);
-Extended QORArcTan(Extended x);
-Extended QORArcTan(Extended y, Extended x); // full-circle angle of (x, y), in (-pi, pi]
+QORKIT_BASE_EXPORT Extended QORSin(Extended x);
+QORKIT_BASE_EXPORT Extended QORCos(Extended x);
+QORKIT_BASE_EXPORT Extended QORTan(Extended x);
+QORKIT_BASE_EXPORT void QORSinCos(Extended x, Extended& sinValue, Extended& cosValue);
+QORKIT_BASE_EXPORT Extended QORArcSin(Extended x); // |x| > 1: EInvalidOp
+QORKIT_BASE_EXPORT Extended QORArcCos(Extended x);
+QORKIT_BASE_EXPORT Extended QORArcTan(Extended x);
+QORKIT_BASE_EXPORT Extended QORArcTan(Extended y,
+                                      Extended x); // full-circle angle of (x, y), in (-pi, pi]
 
 // Trigonometry in degrees.
-Extended QORSinDeg(Extended degrees);
-Extended QORCosDeg(Extended degrees);
-Extended QORTanDeg(Extended degrees);
-void QORSinCosDeg(Extended degrees, Extended& sinValue, Extended& cosValue);
-Extended QORArcSinDeg(Extended x);
-Extended QORArcCosDeg(Extended x);
-Extended QORArcTanDeg(Extended x);
-Extended QORArcTanDeg(Extended y, Extended x); // full-circle angle of (x, y), in (-180, 180]
+QORKIT_BASE_EXPORT Extended QORSinDeg(Extended degrees);
+QORKIT_BASE_EXPORT Extended QORCosDeg(Extended degrees);
+QORKIT_BASE_EXPORT Extended QORTanDeg(Extended degrees);
+QORKIT_BASE_EXPORT void QORSinCosDeg(Extended degrees, Extended& sinValue, Extended& cosValue);
+QORKIT_BASE_EXPORT Extended QORArcSinDeg(Extended x);
+QORKIT_BASE_EXPORT Extended QORArcCosDeg(Extended x);
+QORKIT_BASE_EXPORT Extended QORArcTanDeg(Extended x);
+QORKIT_BASE_EXPORT Extended QORArcTanDeg(Extended y,
+                                         Extended x); // full-circle angle of (x, y), in (-180, 180]
 
 // Hyperbolic functions and their inverses.
-Extended QORSinh(Extended x);
-Extended QORCosh(Extended x);
-Extended QORTanh(Extended x);
-Extended QORArSinh(Extended x);
-Extended QORArCosh(Extended x); // x < 1: EInvalidOp
-Extended QORArTanh(Extended x); // |x| >= 1: EInvalidOp
+QORKIT_BASE_EXPORT Extended QORSinh(Extended x);
+QORKIT_BASE_EXPORT Extended QORCosh(Extended x);
+QORKIT_BASE_EXPORT Extended QORTanh(Extended x);
+QORKIT_BASE_EXPORT Extended QORArSinh(Extended x);
+QORKIT_BASE_EXPORT Extended QORArCosh(Extended x); // x < 1: EInvalidOp
+QORKIT_BASE_EXPORT Extended QORArTanh(Extended x); // |x| >= 1: EInvalidOp
 
-Extended Deg2Rad(Extended degrees);
-Extended Rad2Deg(Extended radians);
-Extended Grad2Rad(Extended grads);
-Extended Rad2Grad(Extended radians);
+QORKIT_BASE_EXPORT Extended Deg2Rad(Extended degrees);
+QORKIT_BASE_EXPORT Extended Rad2Deg(Extended radians);
+QORKIT_BASE_EXPORT Extended Grad2Rad(Extended grads);
+QORKIT_BASE_EXPORT Extended Rad2Grad(Extended radians);
 // Reduces an angle into [0, 360).
-Extended AdjustAngleDegree(Extended degrees);
+QORKIT_BASE_EXPORT Extended AdjustAngleDegree(Extended degrees);
 
 // Rotations of a word of the given width by `count` bits.
-std::uint8_t ROL8(std::uint8_t value, unsigned count) noexcept;
-std::uint16_t ROL16(std::uint16_t value, unsigned count) noexcept;
-std::uint32_t ROL32(std::uint32_t value, unsigned count) noexcept;
-std::uint64_t ROL64(std::uint64_t value, unsigned count) noexcept;
-std::uint8_t ROR8(std::uint8_t value, unsigned count) noexcept;
-std::uint16_t ROR16(std::uint16_t value, unsigned count) noexcept;
-std::uint32_t ROR32(std::uint32_t value, unsigned count) noexcept;
-std::uint64_t ROR64(std::uint64_t value, unsigned count) noexcept;
+QORKIT_BASE_EXPORT std::uint8_t ROL8(std::uint8_t value, unsigned count) noexcept;
+QORKIT_BASE_EXPORT std::uint16_t ROL16(std::uint16_t value, unsigned count) noexcept;
+QORKIT_BASE_EXPORT std::uint32_t ROL32(std::uint32_t value, unsigned count) noexcept;
+QORKIT_BASE_EXPORT std::uint64_t ROL64(std::uint64_t value, unsigned count) noexcept;
+QORKIT_BASE_EXPORT std::uint8_t ROR8(std::uint8_t value, unsigned count) noexcept;
+QORKIT_BASE_EXPORT std::uint16_t ROR16(std::uint16_t value, unsigned count) noexcept;
+QORKIT_BASE_EXPORT std::uint32_t ROR32(std::uint32_t value, unsigned count) noexcept;
+QORKIT_BASE_EXPORT std::uint64_t ROR64(std::uint64_t value, unsigned count) noexcept;
 
 // Currency amounts times or divided by a factor. The result is rounded to a whole number of
 // the amount's own units (1/10000 for Currency, one unit of the integer for the 32-bit forms),
 // halves to the even neighbour: the floating-point unit's default rounding, which the currency
 // conversions are defined with. Raise EOverflow when the result is out of the type's range (a
 // negative TQORLongCurrency included), EZeroDivide on a zero divisor.
-Currency MultiplyCurrencyByValue(Currency amount, Extended value);
-Currency DivideCurrencyByValue(Currency amount, Extended value);
-TQORCurrency MultiplyCurrencyByValue(TQORCurrency amount, Extended value);
-TQORCurrency DivideCurrencyByValue(TQORCurrency amount, Extended value);
-TQORLongCurrency MultiplyCurrencyByValue(TQORLongCurrency amount, Extended value);
-TQORLongCurrency DivideCurrencyByValue(TQORLongCurrency amount, Extended value);
+QORKIT_BASE_EXPORT Currency MultiplyCurrencyByValue(Currency amount, Extended value);
+QORKIT_BASE_EXPORT Currency DivideCurrencyByValue(Currency amount, Extended value);
+QORKIT_BASE_EXPORT TQORCurrency MultiplyCurrencyByValue(TQORCurrency amount, Extended value);
+QORKIT_BASE_EXPORT TQORCurrency DivideCurrencyByValue(TQORCurrency amount, Extended value);
+QORKIT_BASE_EXPORT TQORLongCurrency MultiplyCurrencyByValue(TQORLongCurrency amount,
+                                                            Extended value);
+QORKIT_BASE_EXPORT TQORLongCurrency DivideCurrencyByValue(TQORLongCurrency amount, Extended value);
 
 } // namespace qorkit

@@ -4,6 +4,8 @@
 // returning the current translation, and enumerates the texts for translation tools.
 #pragma once
 
+#include "qorkit_base_export.h"
+
 #include <functional>
 #include <span>
 #include <string>
@@ -16,13 +18,13 @@ using TranslationHook
     = std::function<std::string(std::string_view context, std::string_view source)>;
 
 // Installs the process-wide hook (an empty function restores the English texts).
-void SetTranslationHook(TranslationHook hook);
+QORKIT_BASE_EXPORT void SetTranslationHook(TranslationHook hook);
 
 // The current text of a resource string.
-std::string LoadResString(std::string_view context, std::string_view source);
+QORKIT_BASE_EXPORT std::string LoadResString(std::string_view context, std::string_view source);
 
 // One entry of a text module, for translation tools and tests.
-struct TResourceText {
+struct QORKIT_BASE_EXPORT TResourceText {
     std::string_view Name;
     std::string_view Source;
 };
@@ -63,9 +65,9 @@ struct TResourceText {
 QORKIT_BASE_TEXTS(QORKIT_DECLARE_TEXT)
 
 // All base-library texts.
-std::span<const TResourceText> BaseTexts();
+QORKIT_BASE_EXPORT std::span<const TResourceText> BaseTexts();
 
 // Replaces the first "%s" of a message with an argument (for the conversion messages above).
-std::string FormatMessage(const std::string& message, std::string_view argument);
+QORKIT_BASE_EXPORT std::string FormatMessage(const std::string& message, std::string_view argument);
 
 } // namespace qorkit

@@ -6,6 +6,7 @@
 #pragma once
 
 #include "QORKITTypes.h"
+#include "qorkit_base_export.h"
 
 #include <cstdint>
 #include <random>
@@ -14,7 +15,7 @@
 namespace qorkit {
 
 // Number, currency and angle-mark formats. Defaults are those of the C locale.
-struct TFormatSettings {
+struct QORKIT_BASE_EXPORT TFormatSettings {
     char DecimalSeparator = '.';
     char ThousandSeparator = ',';
     std::string CurrencyString = "$";
@@ -32,43 +33,46 @@ struct TFormatSettings {
 };
 
 // The process-wide format settings, read by every text routine at each call.
-extern TFormatSettings FormatSettings;
+extern QORKIT_BASE_EXPORT TFormatSettings FormatSettings;
 
 // The calculator display font that QORCalcDispFont starts with: a family name.
 inline constexpr char QORDefaultCalcDispFont[] = "Arial";
 
 // Calculator settings shared by the calculator dialogs between runs.
-extern bool QORCalcRadians; // calculators start in radians (false: degrees)
-extern Extended QORCalcMemory; // memory register of the floating-point calculators
-extern std::string QORCalcDispFont; // display font description of the calculator display
-extern std::int64_t QORProgCalcMemory; // memory register of the programmer's calculator
+extern QORKIT_BASE_EXPORT bool QORCalcRadians; // calculators start in radians (false: degrees)
+extern QORKIT_BASE_EXPORT Extended
+    QORCalcMemory; // memory register of the floating-point calculators
+extern QORKIT_BASE_EXPORT std::string
+    QORCalcDispFont; // display font description of the calculator display
+extern QORKIT_BASE_EXPORT std::int64_t
+    QORProgCalcMemory; // memory register of the programmer's calculator
 
 // Which store keeps the calculator settings, and where.
-extern TQORRegIniType QORRegIniType;
-extern std::string QORRegPath;
-extern std::string QORRegSection;
-extern std::string QORIniFile;
-extern std::string QORIniSection;
+extern QORKIT_BASE_EXPORT TQORRegIniType QORRegIniType;
+extern QORKIT_BASE_EXPORT std::string QORRegPath;
+extern QORKIT_BASE_EXPORT std::string QORRegSection;
+extern QORKIT_BASE_EXPORT std::string QORIniFile;
+extern QORKIT_BASE_EXPORT std::string QORIniSection;
 
 // Help contexts of the calculator dialogs (0: none).
-extern int QORCalcHelpContext;
-extern int QORSmallCalcHelpContext;
-extern int QORSciCalcHelpContext;
-extern int QORProgCalcHelpContext;
+extern QORKIT_BASE_EXPORT int QORCalcHelpContext;
+extern QORKIT_BASE_EXPORT int QORSmallCalcHelpContext;
+extern QORKIT_BASE_EXPORT int QORSciCalcHelpContext;
+extern QORKIT_BASE_EXPORT int QORProgCalcHelpContext;
 
 // Sign convention seen by callers of the position routines: true means north-positive
 // latitudes and east-positive longitudes (the stored convention).
-extern bool QORNorthPositive;
-extern bool QOREastPositive;
+extern QORKIT_BASE_EXPORT bool QORNorthPositive;
+extern QORKIT_BASE_EXPORT bool QOREastPositive;
 
 // Puts every variable above back to its start-up value and re-seeds the random generator.
-void ResetGlobalSettings();
+QORKIT_BASE_EXPORT void ResetGlobalSettings();
 
 // The process-wide random generator. RandomSeed takes effect before the next number is
 // drawn; a reference kept from RandomGenerator() across a RandomSeed does not see the seed.
-std::mt19937_64& RandomGenerator();
-void RandomSeed(std::uint64_t seed);
+QORKIT_BASE_EXPORT std::mt19937_64& RandomGenerator();
+QORKIT_BASE_EXPORT void RandomSeed(std::uint64_t seed);
 // A uniformly distributed value in [0, 1).
-Extended RandomExtended();
+QORKIT_BASE_EXPORT Extended RandomExtended();
 
 } // namespace qorkit

@@ -7,6 +7,7 @@
 #pragma once
 
 #include "QORKITTypes.h"
+#include "qorkit_base_export.h"
 
 #include <cstdint>
 #include <string>
@@ -23,9 +24,9 @@ namespace qorkit {
 // (an exponent without digits counts as zero). An empty mantissa ("", "-", "E5") is
 // malformed. Values too large for Extended raise EConvertError; values too small for a
 // normal Extended read as 0. Raises EConvertError (rsInvalidFloat naming the text).
-Extended Str2Float(std::string_view s);
+QORKIT_BASE_EXPORT Extended Str2Float(std::string_view s);
 // As Str2Float, but reports failure by returning false.
-bool TryStr2Float(std::string_view s, Extended& value) noexcept;
+QORKIT_BASE_EXPORT bool TryStr2Float(std::string_view s, Extended& value) noexcept;
 
 // Fixed notation with exactly `decimals` decimals, rounded to nearest (halves away from zero),
 // no grouping: Float2EStr(-1234.5, 2) == "-1234.50". Zero never shows a minus sign.
@@ -33,47 +34,49 @@ bool TryStr2Float(std::string_view s, Extended& value) noexcept;
 // reliably), so 0.125 gives "0.13" and 1.005 gives "1.01" at 2 decimals, and digits past the
 // 18th show as zeros. Every finite value formats (1e4932 gives 4933 integer digits); NaN
 // raises EInvalidOp and infinity EOverflow, in every formatter of this module.
-std::string Float2EStr(Extended value, std::uint8_t decimals);
+QORKIT_BASE_EXPORT std::string Float2EStr(Extended value, std::uint8_t decimals);
 // As Float2EStr, with the integer digits grouped (threes, or lakh: last three, then twos).
-std::string Float2CEStr(Extended value, std::uint8_t decimals, bool lakh = false);
+QORKIT_BASE_EXPORT std::string Float2CEStr(Extended value, std::uint8_t decimals,
+                                           bool lakh = false);
 // As Float2EStr / Float2CEStr, with trailing zero decimals (and a bare separator) removed.
-std::string Float2EStr2(Extended value, std::uint8_t decimals);
-std::string Float2CEStr2(Extended value, std::uint8_t decimals, bool lakh = false);
+QORKIT_BASE_EXPORT std::string Float2EStr2(Extended value, std::uint8_t decimals);
+QORKIT_BASE_EXPORT std::string Float2CEStr2(Extended value, std::uint8_t decimals,
+                                            bool lakh = false);
 // Scientific notation with `decimals` mantissa decimals: SciFloat2EStr(12345, 2) == "1.23E+04".
 // The exponent has at least two digits and always a sign.
-std::string SciFloat2EStr(Extended value, std::uint8_t decimals);
+QORKIT_BASE_EXPORT std::string SciFloat2EStr(Extended value, std::uint8_t decimals);
 
 // Inserts the locale thousands separator into the integer digits of a number text (after an
 // optional sign, up to the decimal separator or exponent). Every state of a typed entry is a
 // number here ("-", "0.", "1E", "12345E-"). Text that already carries a separator, or is not
 // a number (such as "Error!"), is returned unchanged.
-std::string AddThousandsSeparators(std::string_view s, bool lakh = false);
+QORKIT_BASE_EXPORT std::string AddThousandsSeparators(std::string_view s, bool lakh = false);
 // Removes every locale thousands separator.
-std::string StripThousandSeparators(std::string_view s);
+QORKIT_BASE_EXPORT std::string StripThousandSeparators(std::string_view s);
 
 // Right-aligned fixed notation in a field of at least `width` characters with `decimals`
 // decimals, "." as the decimal point (a program text, not a display text):
 // Float2Str(3.14159, 10, 2) == "      3.14". A negative `decimals` gives scientific notation
 // with -decimals mantissa decimals: Float2Str(12345, 12, -3) == "   1.235E+04". A text longer
 // than `width` is never cut.
-std::string Float2Str(Extended value, int width, int decimals);
+QORKIT_BASE_EXPORT std::string Float2Str(Extended value, int width, int decimals);
 
 // ---- Integers <-> text ---------------------------------------------------------------------
 
-std::string Int2EStr(std::int64_t value); // signed decimal
+QORKIT_BASE_EXPORT std::string Int2EStr(std::int64_t value); // signed decimal
 // Hexadecimal digits, upper case, at least `digits` long (zero-padded); negative values in
 // 64-bit two's complement: Int2EHex(255) == "FF", Int2EHex(255, 4) == "00FF",
 // Int2EHex(-1) == "FFFFFFFFFFFFFFFF".
-std::string Int2EHex(std::int64_t value, int digits = 1);
+QORKIT_BASE_EXPORT std::string Int2EHex(std::int64_t value, int digits = 1);
 // Signed decimal text to integer; blanks around are allowed. Raises EConvertError when
 // malformed (rsInvalidInteger; this includes "", a lone sign and any stray character) or out
 // of range (rsIntegerOverflow).
-std::int32_t Str2Int(std::string_view s);
-std::int64_t Str2Int64(std::string_view s);
+QORKIT_BASE_EXPORT std::int32_t Str2Int(std::string_view s);
+QORKIT_BASE_EXPORT std::int64_t Str2Int64(std::string_view s);
 // Hexadecimal digits (either case, at most 16) to int64: 16 digits give the two's-complement
 // value, fewer digits a non-negative value. Empty text is 0; blanks around are allowed. Raises
 // EConvertError on a non-hex character (no sign either) or more than 16 digits.
-std::int64_t Hex2Int64(std::string_view hex);
+QORKIT_BASE_EXPORT std::int64_t Hex2Int64(std::string_view hex);
 
 // Digit-string base changes. Every input digit is kept at full width (leading zeros count):
 // Hex2Bin gives 4 binary digits per hex digit; Bin2Hex pads the binary text on the left to a
@@ -81,16 +84,16 @@ std::int64_t Hex2Int64(std::string_view hex);
 // Oct2Hex converts the bit pattern of n octal digits to ceil(3n/4) hex digits.
 // So Hex2Oct of 16 hex digits gives 22 octal digits. Empty text gives empty text.
 // Raises EConvertError on a digit outside the base.
-std::string Bin2Hex(std::string_view bin);
-std::string Hex2Bin(std::string_view hex);
-std::string Hex2Oct(std::string_view hex);
-std::string Oct2Hex(std::string_view oct);
+QORKIT_BASE_EXPORT std::string Bin2Hex(std::string_view bin);
+QORKIT_BASE_EXPORT std::string Hex2Bin(std::string_view hex);
+QORKIT_BASE_EXPORT std::string Hex2Oct(std::string_view hex);
+QORKIT_BASE_EXPORT std::string Oct2Hex(std::string_view oct);
 
 // Inserts `sep` between groups of `n` characters counted from the right:
 // GroupSpacing("1234567", 3, ' ') == "1 234 567". n <= 0 returns s unchanged.
-std::string GroupSpacing(std::string_view s, int n, char sep);
+QORKIT_BASE_EXPORT std::string GroupSpacing(std::string_view s, int n, char sep);
 // Removes every `sep`.
-std::string RemoveGroupSpacing(std::string_view s, char sep);
+QORKIT_BASE_EXPORT std::string RemoveGroupSpacing(std::string_view s, char sep);
 
 // ---- Angles --------------------------------------------------------------------------------
 
@@ -98,22 +101,23 @@ std::string RemoveGroupSpacing(std::string_view s, char sep);
 // `decimals` decimals, minutes and seconds two digits wide, units separated by a blank:
 // Angle2Str(12.5125, 0) == "12° 30' 45\"", Angle2Str(5.0841667, 0) == "5° 05' 03\"".
 // Negative angles carry a leading minus.
-std::string Angle2Str(Extended degrees, std::uint8_t decimals);
+QORKIT_BASE_EXPORT std::string Angle2Str(Extended degrees, std::uint8_t decimals);
 // Degrees as text of the chosen units (dmsDegrees "12.51°", dmsDegreesMinutes "12° 30.75'",
 // dmsDegreesMinutesSeconds "12° 30' 45\""), the last unit with `decimals` decimals;
 // `leadingZeroes` pads minutes and seconds to two digits, `spaceUnits` puts a blank between
 // units, `trimTrailingZeroes` drops zero decimals of the last unit (and its bare separator).
 // Rounding happens once, in the last unit, halves away from zero, and carries upwards: 59.99"
 // at one decimal shows as the next whole minute. The decimal separator is the locale one.
-std::string Float2DMSStr(Extended degrees, TQORDMSType type, std::uint8_t decimals,
-                         bool leadingZeroes, bool spaceUnits, bool trimTrailingZeroes);
+QORKIT_BASE_EXPORT std::string Float2DMSStr(Extended degrees, TQORDMSType type,
+                                            std::uint8_t decimals, bool leadingZeroes,
+                                            bool spaceUnits, bool trimTrailingZeroes);
 // Reads any of the texts above. Each number may carry a mark naming its unit; numbers without
 // one take the next unit in turn and are separated by blanks ("12 30 45"); units must come in
 // order (degrees, minutes, seconds) and add up (minutes past 59 are not refused). A plain
 // number is degrees. The locale decimal separator and "." are both accepted. A leading sign,
 // or a trailing hemisphere letter (rsNorthAbbr/rsSouthAbbr/rsEastAbbr/rsWestAbbr, any case;
 // South and West negate), gives the sign; both at once are refused. Raises EConvertError.
-Extended DMSStr2Float(std::string_view s);
+QORKIT_BASE_EXPORT Extended DMSStr2Float(std::string_view s);
 
 // ---- Currency ------------------------------------------------------------------------------
 
@@ -121,17 +125,21 @@ Extended DMSStr2Float(std::string_view s);
 // zero), grouped in threes, with the process-wide currency symbol and positive/negative
 // currency format; an amount that rounds to zero uses the positive format. Format numbers
 // out of range fall back to the defaults ("$1" and "-$1").
-std::string Currency2EStr(Currency value, std::uint8_t decimals);
+QORKIT_BASE_EXPORT std::string Currency2EStr(Currency value, std::uint8_t decimals);
 // Removes the process-wide currency symbol and surrounding blanks and brings the sign to the
 // front: "($1.00)", "1.00$-" and "- $ 1.00" become "-1.00", so the text of every currency
 // format reads back through Str2Float.
-std::string StripCurrencyString(std::string_view s);
+QORKIT_BASE_EXPORT std::string StripCurrencyString(std::string_view s);
 
 // ---- Small helpers -------------------------------------------------------------------------
 
-std::string LeftStr(std::string_view s, int n); // first n characters (all when shorter)
-std::string RightStr(std::string_view s, int n); // last n characters (all when shorter)
-std::string PadChLeftStr(std::string_view s, char ch, int n); // pad on the left to length n
-std::string StripLChStr(std::string_view s, char ch); // remove leading `ch` characters
+QORKIT_BASE_EXPORT std::string LeftStr(std::string_view s,
+                                       int n); // first n characters (all when shorter)
+QORKIT_BASE_EXPORT std::string RightStr(std::string_view s,
+                                        int n); // last n characters (all when shorter)
+QORKIT_BASE_EXPORT std::string PadChLeftStr(std::string_view s, char ch,
+                                            int n); // pad on the left to length n
+QORKIT_BASE_EXPORT std::string StripLChStr(std::string_view s,
+                                           char ch); // remove leading `ch` characters
 
 } // namespace qorkit

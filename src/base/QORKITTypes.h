@@ -1,6 +1,8 @@
 // Shared value types, records and enumerations of the qorkit libraries.
 #pragma once
 
+#include "qorkit_base_export.h"
+
 #include <cstdint>
 #include <limits>
 #include <string>
@@ -59,7 +61,7 @@ inline constexpr std::string_view QORProgSizeChangeNames[] = {"Clear", "Truncate
 // Number of bits of a word size; a value outside the four sizes counts as 64 bits.
 constexpr int BitSizeBits(TQORBitSize size) noexcept { return size <= bs64Bits ? 8 << size : 64; }
 
-struct TQORComplex {
+struct QORKIT_BASE_EXPORT TQORComplex {
     Extended Real = 0;
     Extended Imaginary = 0;
     friend bool operator==(const TQORComplex&, const TQORComplex&) = default;
@@ -69,7 +71,7 @@ inline constexpr TQORComplex ComplexZero {0, 0};
 inline constexpr TQORComplex ComplexUnity {1, 0};
 inline constexpr TQORComplex ComplexI {0, 1};
 
-struct TQORTime {
+struct QORKIT_BASE_EXPORT TQORTime {
     std::int32_t Day = 0; // integer part of a date-time
     std::int32_t Hours = 0;
     std::int32_t Minutes = 0;
@@ -81,14 +83,14 @@ struct TQORTime {
 
 // Latitude then longitude in decimal degrees, stored north-positive and east-positive; the
 // flags QORNorthPositive / QOREastPositive (QORKITSettings.h) choose what callers see.
-struct TQORPosition {
+struct QORKIT_BASE_EXPORT TQORPosition {
     Extended Latitude = 0;
     Extended Longitude = 0;
     friend bool operator==(const TQORPosition&, const TQORPosition&) = default;
 };
 
 // A measure in two units, such as feet and inches.
-struct TQORImperial {
+struct QORKIT_BASE_EXPORT TQORImperial {
     std::int32_t Major = 0; // whole major units; carries the sign of the measure
     double Minor = 0; // minor units, non-negative after normalisation
     std::int32_t Power = 1; // dimension: 0 constant, 1 linear, 2 square, 3 cubic ...
@@ -101,7 +103,7 @@ struct TQORImperial {
 };
 
 // The host's fixed-point currency: a 64-bit integer holding amount x 10000.
-class Currency {
+class QORKIT_BASE_EXPORT Currency {
 public:
     static constexpr std::int64_t Scale = 10000;
 

@@ -16,6 +16,7 @@
 
 #include "QORKITEngineToolkit.h"
 #include "QORKITTypes.h"
+#include "qorkit_core_export.h"
 
 #include <cstdint>
 #include <functional>
@@ -26,7 +27,7 @@
 
 namespace qorkit {
 
-class TQORCalcEngine {
+class QORKIT_CORE_EXPORT TQORCalcEngine {
 public:
     using TNotifyEvent = std::function<void(TQORCalcEngine*)>;
 
@@ -341,17 +342,17 @@ private:
 // The engine's keys by name, for hosts that drive it from text (scripts, a command line):
 // "7", ".", "+", "sin", "m+" ... Names are lower case.
 
-struct TQORCalcKey {
+struct QORKIT_CORE_EXPORT TQORCalcKey {
     std::string_view Name;
     std::string_view Description;
     void (*Press)(TQORCalcEngine& engine);
 };
 
 // Every named key, in a fixed order.
-std::span<const TQORCalcKey> CalcEngineKeys();
+QORKIT_CORE_EXPORT std::span<const TQORCalcKey> CalcEngineKeys();
 // Presses one key by name. Besides the table, "roundN" rounds to N decimals and a token of
 // digits and separators ("12.5", "1,000") types each character. Returns false for an
 // unknown name, and presses nothing then.
-bool PressCalcKey(TQORCalcEngine& engine, std::string_view name);
+QORKIT_CORE_EXPORT bool PressCalcKey(TQORCalcEngine& engine, std::string_view name);
 
 } // namespace qorkit

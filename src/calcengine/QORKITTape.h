@@ -34,7 +34,7 @@ enum TQORTapeRowKind : std::uint8_t {
 // "error".
 QORKIT_CORE_EXPORT std::string_view TapeRowKindName(TQORTapeRowKind kind);
 
-struct TQORTapeRow {
+struct QORKIT_CORE_EXPORT TQORTapeRow {
     std::string Text; // the tape line as the engine wrote it
     TQORTapeRowKind Kind = trkValue;
     std::string Operator; // the operator part ("+", "sin", "M+", "="); empty on a bare number

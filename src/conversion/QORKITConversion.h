@@ -13,6 +13,7 @@
 #include "QORKITUnitTables.h"
 #include "QORKITUnitTables2.h"
 #include "QORKIT_RS_UC.h"
+#include "qorkit_core_export.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -161,7 +162,7 @@ enum class TQORRuleKind : std::uint8_t { Base, Same, Lin, Div, Fn, SrcKg, Slope 
 // Where a unit's factor comes from.
 enum class TQORFactorSource : std::uint8_t { Const, Exact, Nist, Custom, Ref };
 
-struct TQORUnitRule {
+struct QORKIT_CORE_EXPORT TQORUnitRule {
     std::uint8_t Member = 0; // ordinal in the quantity's enumeration
     TQORRuleKind Kind = TQORRuleKind::Base;
     std::uint8_t Via = 0; // ordinal of the unit this one is defined through
@@ -174,26 +175,28 @@ struct TQORUnitRule {
 };
 
 // Number of units of a quantity (0 for a quantity without units).
-std::size_t UnitCount(TQORConvType quantity) noexcept;
+QORKIT_CORE_EXPORT std::size_t UnitCount(TQORConvType quantity) noexcept;
 // The table of a quantity, in ordinal order (empty for a quantity without units).
-std::span<const TQORUnitRule> UnitRules(TQORConvType quantity) noexcept;
+QORKIT_CORE_EXPORT std::span<const TQORUnitRule> UnitRules(TQORConvType quantity) noexcept;
 // The member name ("edtFeet") and display name ("Feet") of a unit; empty when out of range.
-std::string_view UnitMemberName(TQORConvType quantity, std::size_t unit) noexcept;
-std::string UnitName(TQORConvType quantity, std::size_t unit);
+QORKIT_CORE_EXPORT std::string_view UnitMemberName(TQORConvType quantity,
+                                                   std::size_t unit) noexcept;
+QORKIT_CORE_EXPORT std::string UnitName(TQORConvType quantity, std::size_t unit);
 // The base unit of a quantity (ordinal).
-std::size_t BaseUnit(TQORConvType quantity);
+QORKIT_CORE_EXPORT std::size_t BaseUnit(TQORConvType quantity);
 
 // A value in a unit converted into the quantity's base unit, and back. They follow the unit's
 // chain of definitions and raise what the routines raise; an unknown quantity or unit raises
 // EConvertError.
-Extended UnitToBase(TQORConvType quantity, std::size_t unit, Extended value);
-Extended UnitFromBase(TQORConvType quantity, std::size_t unit, Extended value);
+QORKIT_CORE_EXPORT Extended UnitToBase(TQORConvType quantity, std::size_t unit, Extended value);
+QORKIT_CORE_EXPORT Extended UnitFromBase(TQORConvType quantity, std::size_t unit, Extended value);
 
 // Converts a value between two units of a quantity: first into the base unit, then out of it.
 // Raises the routines' exceptions (temperatures below absolute zero, zero fuel figures),
 // EConvertError for an unknown quantity or unit, EInvalidOp for a value that is not a number and
 // EOverflow when the result is not finite.
-Extended ConvertUnits(TQORConvType quantity, std::size_t from, std::size_t to, Extended value);
+QORKIT_CORE_EXPORT Extended ConvertUnits(TQORConvType quantity, std::size_t from, std::size_t to,
+                                         Extended value);
 
 template<typename E> Extended ConvertUnit(E from, E to, Extended value)
 {
@@ -204,7 +207,7 @@ template<typename E> Extended ConvertUnit(E from, E to, Extended value)
 // ---- The conversion routines --------------------------------------------------------------------
 
 // The temperature routines between two scales that are not Celsius. They are written by hand and
-// convert directly, not through Celsius: X(Family, A, B) names Family<A>2<B> and Family<B>2<A>.
+// convert directly, not through Celsius: X(Temp, F, K) names TempF2K and TempK2F.
 // clang-format off
 #define QORKIT_TEMP_DIRECT_PAIRS(X) \
     X(Temp, F, K) \

@@ -35,7 +35,7 @@ namespace qorkit {
 inline constexpr char QORConvertorVersion[] = "qorkit convertors 0.1.0";
 
 // One entry of a unit list: the unit's display name and its ordinal in the enumeration.
-struct TQORUnitItem {
+struct QORKIT_WIDGETS_EXPORT TQORUnitItem {
     QString Name;
     int Ordinal = 0;
 };

@@ -10,13 +10,14 @@
 #pragma once
 
 #include "QORKITConversion.h"
+#include "qorkit_core_export.h"
 
 #include <cstddef>
 #include <string_view>
 
 namespace qorkit {
 
-struct TQORUnitAlias {
+struct QORKIT_CORE_EXPORT TQORUnitAlias {
     std::string_view Alias;
     TQORConvType Quantity;
     std::size_t Unit;

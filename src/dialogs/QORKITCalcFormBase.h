@@ -20,6 +20,7 @@
 #include "QORKITStoreCtrl.h"
 #include "QORKITTypes.h"
 #include "QORKIT_RS_Calc.h"
+#include "qorkit_widgets_export.h"
 
 #include <QColor>
 #include <QDialog>
@@ -50,7 +51,7 @@ using TQORTextFn = std::string (*)();
 
 // How a key looks: its object name, a fixed caption or a translatable one, or a glyph
 // (glyph -1: none), and its hint (none when null).
-struct TQORKeyLook {
+struct QORKIT_WIDGETS_EXPORT TQORKeyLook {
     const char* Name;
     const char* Text;
     TQORTextFn Caption;
@@ -66,7 +67,7 @@ template<class Form, class Engine> struct TQORKeyDef {
 };
 
 // A key's cell in a layout: column, row and width in keys.
-struct TQORKeyPlace {
+struct QORKIT_WIDGETS_EXPORT TQORKeyPlace {
     const char* Name;
     int Col;
     int Row;
@@ -74,7 +75,7 @@ struct TQORKeyPlace {
 };
 
 // A typed character and the button(s) it clicks.
-struct TQORCharKey {
+struct QORKIT_WIDGETS_EXPORT TQORCharKey {
     char Ch;
     const char* Button;
     const char* Then = nullptr;
@@ -83,7 +84,7 @@ struct TQORCharKey {
 // A shortcut key (with exactly these modifiers) and what it does: a button click, or a
 // method of the form.
 class TQORCalcFormBase;
-struct TQORKeyDownDef {
+struct QORKIT_WIDGETS_EXPORT TQORKeyDownDef {
     int Key;
     Qt::KeyboardModifiers Modifiers;
     bool Keypad;
@@ -92,14 +93,14 @@ struct TQORKeyDownDef {
 };
 
 // Geometry of a form: key size and the key grid's size in keys.
-struct TQORFormGeometry {
+struct QORKIT_WIDGETS_EXPORT TQORFormGeometry {
     int KeyWidth;
     int KeyHeight;
     int Columns;
     int Rows;
 };
 
-class TQORCalcFormBase : public QDialog {
+class QORKIT_WIDGETS_EXPORT TQORCalcFormBase : public QDialog {
     Q_OBJECT
 
 public:
@@ -383,19 +384,19 @@ inline constexpr TQORKeyDef<TQORCalcFormBase, Engine> QORCommonKeys[] = {
 
 // A control that shows a calculator component's edit glyph hears of glyph changes through
 // this (registered with AddToNotifyGlyphChanges).
-class IQORGlyphClient {
+class QORKIT_WIDGETS_EXPORT IQORGlyphClient {
 public:
     virtual ~IQORGlyphClient() = default;
     virtual void GlyphChanged(QObject* calculator) = 0;
 };
 
 // A settings key and the property it keeps.
-struct TQORStoreKey {
+struct QORKIT_WIDGETS_EXPORT TQORStoreKey {
     const char* Key;
     const char* Property;
 };
 
-class TQORCalcComponent : public QObject, public IQORNotifyClient {
+class QORKIT_WIDGETS_EXPORT TQORCalcComponent : public QObject, public IQORNotifyClient {
     Q_OBJECT
     Q_PROPERTY(TQORUICtrl* UICtrl READ GetUICtrl WRITE SetUICtrl NOTIFY uiCtrlChanged)
     Q_PROPERTY(TQOREditColorSet* ColorSet READ GetColorSet)
@@ -672,7 +673,7 @@ QORKIT_WIDGETS_EXPORT QWidget* QORHostWindow(QWidget* parent);
 
 // Keeps the process-wide display font for the life of one free-function dialog, replaced by
 // `font` when that is not empty.
-class TQORDispFontScope {
+class QORKIT_WIDGETS_EXPORT TQORDispFontScope {
 public:
     explicit TQORDispFontScope(const std::string& font);
     ~TQORDispFontScope();

@@ -8,13 +8,14 @@
 
 #include "QORKITFloatCalcComponent.h"
 #include "QORKITFloatCalcForm.h"
+#include "qorkit_widgets_export.h"
 
 #include <cstdint>
 #include <string>
 
 namespace qorkit {
 
-class TQORCalcForm : public TQORFloatCalcForm {
+class QORKIT_WIDGETS_EXPORT TQORCalcForm : public TQORFloatCalcForm {
     Q_OBJECT
 
 public:
@@ -36,7 +37,7 @@ private:
     bool hideFnBtns_ = false;
 };
 
-class TQORCalculator
+class QORKIT_WIDGETS_EXPORT TQORCalculator
     : public TQORCalcComponentT<TQORCalculator, TQORCalcForm, TQORFloatCalcComponent> {
     Q_OBJECT
     Q_PROPERTY(bool ShowThousandsSeparators READ GetShowThousandsSeparators WRITE

@@ -5,6 +5,7 @@
 
 #include "QORKITCalcFormBase.h"
 #include "QORKITFloatCalcForm.h"
+#include "qorkit_widgets_export.h"
 
 #include <cstdint>
 #include <memory>
@@ -12,7 +13,7 @@
 
 namespace qorkit {
 
-class TQORFloatCalcComponent : public TQORCalcComponent {
+class QORKIT_WIDGETS_EXPORT TQORFloatCalcComponent : public TQORCalcComponent {
     Q_OBJECT
     Q_PROPERTY(int DecimalPlaces READ GetDecimalPlacesValue WRITE SetDecimalPlacesValue NOTIFY
                    decimalPlacesChanged)
@@ -133,8 +134,9 @@ private:
 // The run behind the DisplayCalc / DisplaySciCalc free functions: the process-wide settings go
 // into the form's engine and come back out (memory and angle mode even when cancelled), the
 // value only when accepted. `left` / `top` of -1 keep the form's own coordinate.
-bool RunFloatCalcDialog(TQORFloatCalcForm& form, const std::string& title, Extended& value,
-                        std::int32_t left, std::int32_t top, std::uint8_t decimals, bool flat);
+QORKIT_WIDGETS_EXPORT bool RunFloatCalcDialog(TQORFloatCalcForm& form, const std::string& title,
+                                              Extended& value, std::int32_t left, std::int32_t top,
+                                              std::uint8_t decimals, bool flat);
 
 // The DisplayCalc / DisplaySciCalc run on a new Form, a child of `parent`'s window (default: the
 // active window) centred on it; a non-empty `font` is the display font for the life of the

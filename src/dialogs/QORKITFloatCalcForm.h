@@ -7,14 +7,15 @@
 #include "QORKITCalcEngine.h"
 #include "QORKITCalcFormBase.h"
 #include "QORKITEngineObjects.h"
+#include "qorkit_widgets_export.h"
 
 #include <QSpinBox>
 
 namespace qorkit {
 
-void EnterDigit(TQORCalcEngine& engine, int digit);
+QORKIT_WIDGETS_EXPORT void EnterDigit(TQORCalcEngine& engine, int digit);
 
-class TQORFloatCalcForm : public TQORCalcFormBase {
+class QORKIT_WIDGETS_EXPORT TQORFloatCalcForm : public TQORCalcFormBase {
     Q_OBJECT
 
 public:

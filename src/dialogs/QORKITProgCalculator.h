@@ -6,15 +6,16 @@
 #include "QORKITCalcFormBase.h"
 #include "QORKITEngineObjects.h"
 #include "QORKITProgCalcEngine.h"
+#include "qorkit_widgets_export.h"
 
 #include <cstdint>
 #include <string>
 
 namespace qorkit {
 
-void EnterDigit(IQORProgCalcEngine& engine, int digit);
+QORKIT_WIDGETS_EXPORT void EnterDigit(IQORProgCalcEngine& engine, int digit);
 
-class TQORProgCalcForm : public TQORCalcFormBase {
+class QORKIT_WIDGETS_EXPORT TQORProgCalcForm : public TQORCalcFormBase {
     Q_OBJECT
 
 public:
@@ -68,7 +69,8 @@ private:
     IQORProgCalcEngine& engine_;
 };
 
-class TQORProgCalculator : public TQORCalcComponentT<TQORProgCalculator, TQORProgCalcForm> {
+class QORKIT_WIDGETS_EXPORT TQORProgCalculator
+    : public TQORCalcComponentT<TQORProgCalculator, TQORProgCalcForm> {
     Q_OBJECT
     Q_PROPERTY(qint64 Value READ GetValue WRITE SetValue NOTIFY valueChanged)
     Q_PROPERTY(qint64 Memory READ GetMemory WRITE SetMemory NOTIFY memoryChanged)

@@ -5,13 +5,14 @@
 
 #include "QORKITFloatCalcComponent.h"
 #include "QORKITFloatCalcForm.h"
+#include "qorkit_widgets_export.h"
 
 #include <cstdint>
 #include <string>
 
 namespace qorkit {
 
-class TQORSciCalcForm : public TQORFloatCalcForm {
+class QORKIT_WIDGETS_EXPORT TQORSciCalcForm : public TQORFloatCalcForm {
     Q_OBJECT
 
 public:
@@ -28,7 +29,7 @@ protected:
     std::vector<std::span<const TQORCharKey>> CharKeys() const override;
 };
 
-class TQORSciCalculator
+class QORKIT_WIDGETS_EXPORT TQORSciCalculator
     : public TQORCalcComponentT<TQORSciCalculator, TQORSciCalcForm, TQORFloatCalcComponent> {
     Q_OBJECT
     Q_PROPERTY(bool SciRange READ GetSciRange WRITE SetSciRange NOTIFY sciRangeChanged)

@@ -11,6 +11,7 @@
 
 #include "QORKITResource.h"
 #include "QORKITTypes.h"
+#include "qorkit_core_export.h"
 
 #include <cstdint>
 #include <span>
@@ -29,43 +30,49 @@ namespace qorkit {
 QORKIT_IMPERIAL_TEXTS(QORKIT_DECLARE_TEXT)
 
 // Every text of this module, in table order.
-std::span<const TResourceText> ImperialTexts();
+QORKIT_CORE_EXPORT std::span<const TResourceText> ImperialTexts();
 
 // A normalised measure: 1 foot 14 inches becomes 2 feet 2 inches. Ratio 0 raises.
-TQORImperial MakeImperial(std::int32_t Major, double Minor, const std::string& MajorName,
-                          const std::string& MinorName, const std::string& MajorAbbr,
-                          const std::string& MinorAbbr, std::int32_t Ratio, std::int32_t Power);
-TQORImperial MakeFeetInches(std::int32_t Feet, double Inches, std::int32_t Power);
-TQORImperial MakePoundsOunces(std::int32_t Pounds, double Ounces, std::int32_t Power);
+QORKIT_CORE_EXPORT TQORImperial MakeImperial(std::int32_t Major, double Minor,
+                                             const std::string& MajorName,
+                                             const std::string& MinorName,
+                                             const std::string& MajorAbbr,
+                                             const std::string& MinorAbbr, std::int32_t Ratio,
+                                             std::int32_t Power);
+QORKIT_CORE_EXPORT TQORImperial MakeFeetInches(std::int32_t Feet, double Inches,
+                                               std::int32_t Power);
+QORKIT_CORE_EXPORT TQORImperial MakePoundsOunces(std::int32_t Pounds, double Ounces,
+                                                 std::int32_t Power);
 
 // The measure as one value in major units (to its power).
-Extended Imperial2Float(const TQORImperial& Imp);
+QORKIT_CORE_EXPORT Extended Imperial2Float(const TQORImperial& Imp);
 // Sets Major and Minor from a value in major units, keeping the other fields.
-void Float2Imperial(TQORImperial& Imp, Extended Value);
-void AdjustImperial(TQORImperial& Imp);
+QORKIT_CORE_EXPORT void Float2Imperial(TQORImperial& Imp, Extended Value);
+QORKIT_CORE_EXPORT void AdjustImperial(TQORImperial& Imp);
 // "2 Feet 2.00 Inches", "1 sq Feet 72.00 sq Inches", "1 1.50 (const)" ...
-std::string Imperial2Str(const TQORImperial& Imp, std::uint8_t Decimals);
+QORKIT_CORE_EXPORT std::string Imperial2Str(const TQORImperial& Imp, std::uint8_t Decimals);
 
 // Sums need the same units and power; products and quotients the same units, and add or
 // subtract the powers.
-TQORImperial AddImperial(const TQORImperial& A, const TQORImperial& B);
-TQORImperial SubtractImperial(const TQORImperial& A, const TQORImperial& B);
-TQORImperial MultiplyImperial(const TQORImperial& A, const TQORImperial& B);
-TQORImperial DivideImperial(const TQORImperial& A, const TQORImperial& B);
-void AddToImperial(TQORImperial& A, const TQORImperial& B);
-void SubtractFromImperial(TQORImperial& A, const TQORImperial& B);
+QORKIT_CORE_EXPORT TQORImperial AddImperial(const TQORImperial& A, const TQORImperial& B);
+QORKIT_CORE_EXPORT TQORImperial SubtractImperial(const TQORImperial& A, const TQORImperial& B);
+QORKIT_CORE_EXPORT TQORImperial MultiplyImperial(const TQORImperial& A, const TQORImperial& B);
+QORKIT_CORE_EXPORT TQORImperial DivideImperial(const TQORImperial& A, const TQORImperial& B);
+QORKIT_CORE_EXPORT void AddToImperial(TQORImperial& A, const TQORImperial& B);
+QORKIT_CORE_EXPORT void SubtractFromImperial(TQORImperial& A, const TQORImperial& B);
 
-TQORImperial MultiplyImperialByConst(const TQORImperial& Imp, Extended C);
-TQORImperial DivideImperialByConst(const TQORImperial& Imp, Extended C);
-void MultiplyImperialByConst2(TQORImperial& Imp, Extended C);
-void DivideImperialByConst2(TQORImperial& Imp, Extended C);
+QORKIT_CORE_EXPORT TQORImperial MultiplyImperialByConst(const TQORImperial& Imp, Extended C);
+QORKIT_CORE_EXPORT TQORImperial DivideImperialByConst(const TQORImperial& Imp, Extended C);
+QORKIT_CORE_EXPORT void MultiplyImperialByConst2(TQORImperial& Imp, Extended C);
+QORKIT_CORE_EXPORT void DivideImperialByConst2(TQORImperial& Imp, Extended C);
 
 // A normalised, negated copy; the form ending in 2 negates Major in place, nothing else.
-TQORImperial NegativeImperial(const TQORImperial& Imp);
-void NegativeImperial2(TQORImperial& Imp);
+QORKIT_CORE_EXPORT TQORImperial NegativeImperial(const TQORImperial& Imp);
+QORKIT_CORE_EXPORT void NegativeImperial2(TQORImperial& Imp);
 
-TQORImperial SqrImperial(const TQORImperial& Imp); // power doubled
-TQORImperial InvImperial(const TQORImperial& Imp); // power negated
-TQORImperial SqrtImperial(const TQORImperial& Imp); // power halved; odd powers raise
+QORKIT_CORE_EXPORT TQORImperial SqrImperial(const TQORImperial& Imp); // power doubled
+QORKIT_CORE_EXPORT TQORImperial InvImperial(const TQORImperial& Imp); // power negated
+QORKIT_CORE_EXPORT TQORImperial
+SqrtImperial(const TQORImperial& Imp); // power halved; odd powers raise
 
 } // namespace qorkit

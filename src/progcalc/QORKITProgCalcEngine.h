@@ -15,6 +15,7 @@
 
 #include "QORKITEngineToolkit.h"
 #include "QORKITTypes.h"
+#include "qorkit_core_export.h"
 
 #include <cstdint>
 #include <functional>
@@ -30,7 +31,7 @@ class IQORProgCalcEngine;
 // Notification handler; the argument is the engine that sends it.
 using TQORProgCalcNotifyEvent = std::function<void(IQORProgCalcEngine* sender)>;
 
-class IQORProgCalcEngine {
+class QORKIT_CORE_EXPORT IQORProgCalcEngine {
 public:
     virtual ~IQORProgCalcEngine() = default;
 
@@ -144,7 +145,7 @@ public:
     virtual void SetOnSizeChangeChange(TQORProgCalcNotifyEvent handler) = 0;
 };
 
-class TQORProgCalcEngine final : public IQORProgCalcEngine {
+class QORKIT_CORE_EXPORT TQORProgCalcEngine final : public IQORProgCalcEngine {
 public:
     // A new engine works in hexadecimal at 64 bits, without spacing, clearing on size changes,
     // with precedence and prefix NOT on (properties Precedence, PrefixFunctions), memory lines
@@ -366,22 +367,22 @@ private:
 
 // Named keys of the programmer's calculator, for key scripts (the command-line tool, tests,
 // fuzzing): operators, brackets, memory, clears, bases and word sizes.
-struct TQORProgKey {
+struct QORKIT_CORE_EXPORT TQORProgKey {
     std::string_view Name; // upper case: "XOR", "M+", "HEX", "BITS16" ...
     void (*Press)(IQORProgCalcEngine& engine);
 };
-std::span<const TQORProgKey> ProgEngineKeys();
+QORKIT_CORE_EXPORT std::span<const TQORProgKey> ProgEngineKeys();
 
 // The keys that take a bit count: SHL, SHR, ROL, ROR.
-struct TQORProgCountedKey {
+struct QORKIT_CORE_EXPORT TQORProgCountedKey {
     std::string_view Name;
     void (IQORProgCalcEngine::*Press)(std::int32_t count);
 };
-std::span<const TQORProgCountedKey> ProgEngineCountedKeys();
+QORKIT_CORE_EXPORT std::span<const TQORProgCountedKey> ProgEngineCountedKeys();
 
 // Presses one key by name: a digit ("7", "F"), a key of ProgEngineKeys, or a counted key with
 // its count ("SHL 4"; alone it moves one bit). Returns false for any other name, and presses
 // nothing then.
-bool PressProgKey(IQORProgCalcEngine& engine, std::string_view name);
+QORKIT_CORE_EXPORT bool PressProgKey(IQORProgCalcEngine& engine, std::string_view name);
 
 } // namespace qorkit

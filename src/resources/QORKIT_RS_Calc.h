@@ -3,6 +3,7 @@
 #pragma once
 
 #include "QORKITResource.h"
+#include "qorkit_core_export.h"
 
 #include <span>
 #include <string>
@@ -187,6 +188,6 @@ namespace qorkit {
 QORKIT_RS_CALC_TEXTS(QORKIT_DECLARE_TEXT)
 
 // Every text of this module, in table order.
-std::span<const TResourceText> CalcTexts();
+QORKIT_CORE_EXPORT std::span<const TResourceText> CalcTexts();
 
 } // namespace qorkit

@@ -8,6 +8,7 @@
 #pragma once
 
 #include "QORKITResource.h"
+#include "qorkit_core_export.h"
 
 #include <span>
 #include <string>
@@ -1311,7 +1312,7 @@ QORKIT_UC_NAME_LISTS(QORKIT_UC_DECLARE_LIST)
 QORKIT_RS_UC_TEXTS(QORKIT_DECLARE_TEXT)
 
 // Every text of this module, in table order: the names of all lists, then the other texts.
-std::span<const TResourceText> UCTexts();
+QORKIT_CORE_EXPORT std::span<const TResourceText> UCTexts();
 
 // The context under which the texts of this module are translated.
 inline constexpr std::string_view UCTextContext = "QORKIT_RS_UC";

@@ -10,6 +10,7 @@
 #include "QORKITEditColors.h"
 #include "QORKITQtEnums.h"
 #include "QORKITTypes.h"
+#include "qorkit_widgets_export.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -23,7 +24,7 @@ namespace qorkit {
 
 class TQORFloatEdit;
 
-class TQORBaseSpinEdit : public QWidget {
+class QORKIT_WIDGETS_EXPORT TQORBaseSpinEdit : public QWidget {
     Q_OBJECT
     Q_PROPERTY(double Max READ GetMaxDouble WRITE SetMaxDouble NOTIFY maxChanged)
     Q_PROPERTY(double Min READ GetMinDouble WRITE SetMinDouble NOTIFY minChanged)
@@ -150,7 +151,7 @@ private:
     TQORNotifyEvent onAfterDownClick_;
 };
 
-class TQORFloatSpinEdit : public TQORBaseSpinEdit {
+class QORKIT_WIDGETS_EXPORT TQORFloatSpinEdit : public TQORBaseSpinEdit {
     Q_OBJECT
 
 public:
@@ -162,7 +163,7 @@ protected:
     void WriteEditorValue(Extended value) override;
 };
 
-class TQORBaseComboBox : public QComboBox {
+class QORKIT_WIDGETS_EXPORT TQORBaseComboBox : public QComboBox {
     Q_OBJECT
     Q_PROPERTY(int ItemIndex READ GetItemIndex WRITE SetItemIndex NOTIFY itemIndexChanged)
     Q_PROPERTY(qorkit::TQORComboStyle Style READ GetStyle WRITE SetStyle NOTIFY styleChanged)
@@ -221,7 +222,7 @@ private:
     TQORSpecialColorEvent onSpecialColor_;
 };
 
-class TQORBasePanel : public QLabel {
+class QORKIT_WIDGETS_EXPORT TQORBasePanel : public QLabel {
     Q_OBJECT
     Q_PROPERTY(QString Caption READ GetCaption WRITE SetCaption NOTIFY captionChanged)
     Q_PROPERTY(Qt::Alignment Alignment READ GetAlignment WRITE SetAlignment NOTIFY alignmentChanged)

@@ -16,6 +16,7 @@
 
 #include "QORKITComponent.h"
 #include "QORKITEditColors.h"
+#include "qorkit_widgets_export.h"
 
 #include <QLineEdit>
 
@@ -23,7 +24,7 @@ namespace qorkit {
 
 // Replaces the process-wide decimal and thousands separators for the life of the object when
 // `active`, and puts the old ones back afterwards (also when an exception leaves the scope).
-class TQORSeparatorScope {
+class QORKIT_WIDGETS_EXPORT TQORSeparatorScope {
 public:
     TQORSeparatorScope(bool active, char decimalSeparator, char thousandSeparator);
     ~TQORSeparatorScope();
@@ -36,7 +37,7 @@ private:
     char savedThousands_;
 };
 
-class TQORBaseEdit : public QLineEdit {
+class QORKIT_WIDGETS_EXPORT TQORBaseEdit : public QLineEdit {
     Q_OBJECT
     Q_PROPERTY(bool Null READ GetNull WRITE SetNull NOTIFY nullChanged)
     Q_PROPERTY(QString NullStr READ GetNullStr WRITE SetNullStr NOTIFY nullStrChanged)
@@ -324,7 +325,7 @@ private:
     TQORKeyEvent onKeyUp_;
 };
 
-class TQORStartEdit : public TQORBaseEdit {
+class QORKIT_WIDGETS_EXPORT TQORStartEdit : public TQORBaseEdit {
     Q_OBJECT
 
 public:

@@ -7,6 +7,8 @@
 // the same place right after the std::function, so any number of listeners can follow it.
 #pragma once
 
+#include "qorkit_widgets_export.h"
+
 #include <QColor>
 #include <QObject>
 #include <QPointer>
@@ -47,7 +49,7 @@ enum TQOROperation : std::uint8_t { opInsert = 0, opRemove = 1 };
 
 // A component that keeps a reference to another component implements this to hear that the
 // other one is being removed; it then drops the reference.
-class IQORNotifyClient {
+class QORKIT_WIDGETS_EXPORT IQORNotifyClient {
 public:
     virtual ~IQORNotifyClient() = default;
     virtual void Notification(QObject* component, TQOROperation operation) = 0;
@@ -55,7 +57,7 @@ public:
 
 // The clients registered with a component. Clients are held through QPointer, so a client
 // that is destroyed without unregistering is skipped rather than called.
-class TQORNotifyList {
+class QORKIT_WIDGETS_EXPORT TQORNotifyList {
 public:
     void Add(QObject* client);
     void Remove(QObject* client);

@@ -6,6 +6,7 @@
 
 #include "QORKITComponent.h"
 #include "QORKITQtEnums.h"
+#include "qorkit_widgets_export.h"
 
 #include <QColor>
 #include <QObject>
@@ -20,7 +21,7 @@ namespace qorkit {
 
 inline constexpr int QOREditStateCount = 7;
 
-class TQOREditColorSet : public QObject {
+class QORKIT_WIDGETS_EXPORT TQOREditColorSet : public QObject {
     Q_OBJECT
     Q_PROPERTY(QColor NormalBack READ NormalBack WRITE SetNormalBack NOTIFY normalBackChanged)
     Q_PROPERTY(QColor NormalText READ NormalText WRITE SetNormalText NOTIFY normalTextChanged)
@@ -108,7 +109,7 @@ private:
     TColors colors_;
 };
 
-class TQORUICtrl : public QObject {
+class QORKIT_WIDGETS_EXPORT TQORUICtrl : public QObject {
     Q_OBJECT
     Q_PROPERTY(TQOREditColorSet* ColorSet READ GetColorSet)
     Q_PROPERTY(bool Flat READ GetFlat WRITE SetFlat NOTIFY flatChanged)
@@ -142,7 +143,7 @@ using TQORColorHook = std::function<void(QColor& background, QColor& text)>;
 // The look of one control: its own colour set, the UI control it may follow and how far.
 // Owned by the control; calls `restyle` whenever anything that decides the look changes
 // (also when the followed UI control is destroyed, after dropping it).
-class TQORLook : public QObject {
+class QORKIT_WIDGETS_EXPORT TQORLook : public QObject {
     Q_OBJECT
 
 public:

@@ -25,6 +25,7 @@
 #include "QORKITQtEnums.h"
 #include "QORKITResource.h"
 #include "QORKITTypes.h"
+#include "qorkit_widgets_export.h"
 
 #include <QValidator>
 
@@ -39,13 +40,13 @@ namespace qorkit {
     X(rsValueNotFinite, "The value is not a finite number")
 
 QORKIT_FLOATEDIT_TEXTS(QORKIT_DECLARE_TEXT)
-std::span<const TResourceText> FloatEditTexts();
+QORKIT_WIDGETS_EXPORT std::span<const TResourceText> FloatEditTexts();
 
 // Evaluates an expression typed into an edit that allows expressions; throws a
 // qorkit::Exception for text it cannot evaluate.
 using TQORExpressionEvaluator = std::function<Extended(const std::string& expression)>;
 
-class TQORFloatEdit : public TQORStartEdit {
+class QORKIT_WIDGETS_EXPORT TQORFloatEdit : public TQORStartEdit {
     Q_OBJECT
     Q_PROPERTY(double AsFloat READ GetAsDouble WRITE SetAsDouble NOTIFY asFloatChanged)
     Q_PROPERTY(int DecimalPlaces READ GetDecimalPlacesValue WRITE SetDecimalPlacesValue NOTIFY

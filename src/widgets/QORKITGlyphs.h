@@ -3,6 +3,7 @@
 #pragma once
 
 #include "QORKITTypes.h"
+#include "qorkit_widgets_export.h"
 
 #include <QIcon>
 #include <QPixmap>
@@ -36,18 +37,19 @@ enum TQORGlyph : std::uint8_t {
 inline constexpr int QORGlyphCount = glPaste + 1;
 
 // Name of a glyph, also its file name without ".svg": "add", "sqroot" ...
-std::string_view QORGlyphName(TQORGlyph glyph);
+QORKIT_WIDGETS_EXPORT std::string_view QORGlyphName(TQORGlyph glyph);
 // Resource path of a glyph.
-QString QORGlyphPath(TQORGlyph glyph);
-QIcon QORGlyphIcon(TQORGlyph glyph);
+QORKIT_WIDGETS_EXPORT QString QORGlyphPath(TQORGlyph glyph);
+QORKIT_WIDGETS_EXPORT QIcon QORGlyphIcon(TQORGlyph glyph);
 // The glyph drawn for `logicalSize` at `devicePixelRatio` (2 on a doubled screen).
-QPixmap QORGlyphPixmap(TQORGlyph glyph, QSize logicalSize, qreal devicePixelRatio = 1.0);
+QORKIT_WIDGETS_EXPORT QPixmap QORGlyphPixmap(TQORGlyph glyph, QSize logicalSize,
+                                             qreal devicePixelRatio = 1.0);
 
 // The three glyphs a calculator edit's button can carry.
-QIcon LoadCalcGlyFXBtn();
-QIcon LoadCalc1Btn();
-QIcon LoadCalc2Btn();
+QORKIT_WIDGETS_EXPORT QIcon LoadCalcGlyFXBtn();
+QORKIT_WIDGETS_EXPORT QIcon LoadCalc1Btn();
+QORKIT_WIDGETS_EXPORT QIcon LoadCalc2Btn();
 // The glyph of a TQORCalcGlyphType; a null icon for a value outside 0..2.
-QIcon LoadCalcGlyph(TQORCalcGlyphType type);
+QORKIT_WIDGETS_EXPORT QIcon LoadCalcGlyph(TQORCalcGlyphType type);
 
 } // namespace qorkit

@@ -27,12 +27,12 @@ inline QString ToQString(std::string_view text)
 // modules that keep texts of their own ("QORKITImperial", "QORKITFloatEdit", "QORKIT_RS_Dialogs");
 // see TextModules().
 // SetTranslationHook({}) returns to the built-in English texts.
-void InstallQtTranslationHook();
+QORKIT_WIDGETS_EXPORT void InstallQtTranslationHook();
 
 // Installs the library's own translation for a locale in one call: a QTranslator holding
 // qorkit_<language>.qm (for de_DE: qorkit_de_DE.qm, else qorkit_de.qm), looked up in the
 // translations built into the library (":/qorkit/i18n"), then in the install directory
-// (<prefix>/share/qorkit/translations), then in "translations" beside the application. It also
+// (PREFIX/share/qorkit/translations), then in "translations" beside the application. It also
 // installs the translation hook. A translation loaded by an earlier call is removed first, so
 // switching languages works; English needs no file and gives false. Number formats are not
 // touched: call SyncFormatSettingsFromLocale() for those. Needs a QCoreApplication.
@@ -45,19 +45,19 @@ QORKIT_WIDGETS_EXPORT bool LoadTranslation(const QLocale& locale = QLocale());
 // space, thin space ...) becomes a plain blank, a typographic apostrophe becomes "'", the Arabic
 // decimal and thousands marks become "." and ",". Anything else keeps "." and "," as defaults.
 // The currency symbol is kept as UTF-8 text; a locale without one (the C locale) gives "$".
-void SyncFormatSettingsFromLocale(const QLocale& locale = QLocale());
+QORKIT_WIDGETS_EXPORT void SyncFormatSettingsFromLocale(const QLocale& locale = QLocale());
 
 // One text module as seen by translation tools: its translation context and its texts.
-struct TTextModule {
+struct QORKIT_WIDGETS_EXPORT TTextModule {
     std::string_view Context;
     std::span<const TResourceText> Texts;
 };
 
 // The text modules of the library, in the order the template lists them.
-std::span<const TTextModule> TextModules();
+QORKIT_WIDGETS_EXPORT std::span<const TTextModule> TextModules();
 
 // The Qt Linguist (.ts) template of every library text: one context per text module, one
 // message per distinct source text with the rs... names that use it as translator comment.
-QByteArray TranslationTemplate();
+QORKIT_WIDGETS_EXPORT QByteArray TranslationTemplate();
 
 } // namespace qorkit
