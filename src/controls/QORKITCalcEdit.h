@@ -37,7 +37,7 @@ class QToolButton;
 namespace qorkit {
 
 // One kind of calculator a calculator edit opens.
-struct TQORCalcKind {
+struct QORKIT_WIDGETS_EXPORT TQORCalcKind {
     // The room the placement rule keeps for the calculator, in logical pixels.
     int Width;
     int Height;
