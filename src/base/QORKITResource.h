@@ -30,7 +30,9 @@ struct QORKIT_BASE_EXPORT TResourceText {
 };
 
 // Expands a text table into declarations / definitions of its rs... functions.
-#define QORKIT_DECLARE_TEXT(name, text) std::string name();
+// The texts of every library are exported; on ELF platforms the base library's macro gives the
+// default visibility whichever library defines the text.
+#define QORKIT_DECLARE_TEXT(name, text) QORKIT_BASE_EXPORT std::string name();
 #define QORKIT_DEFINE_TEXT(name, text)                                                             \
     std::string name() { return ::qorkit::LoadResString(kTextContext, text); }
 #define QORKIT_LIST_TEXT(name, text) ::qorkit::TResourceText {#name, text},
