@@ -56,7 +56,7 @@ class RoutineNames : public ::testing::TestWithParam<TNameCase> { };
 TEST_P(RoutineNames, DeclaredOnceWithTheRoutineSignature)
 {
     const std::string declaration
-        = std::string("Extended ") + GetParam().Name + "(Extended value);";
+        = std::string("QORKIT_CORE_EXPORT Extended ") + GetParam().Name + "(Extended value);";
     const auto lines = Lines(CheckedInHeader());
     EXPECT_EQ(std::count(lines.begin(), lines.end(), declaration), 1) << declaration;
 }
@@ -80,7 +80,7 @@ TEST(RoutinesHeader, OnlyRoutineFamiliesAndShortLines)
 {
     for (const auto& line : Lines(CheckedInHeader())) {
         // The quantities converted only through their tables (family None) have no routines.
-        EXPECT_EQ(line.rfind("Extended None", 0), std::string::npos) << line;
+        EXPECT_EQ(line.rfind("QORKIT_CORE_EXPORT Extended None", 0), std::string::npos) << line;
         EXPECT_LE(line.size(), 100u) << line;
     }
 }
