@@ -1,7 +1,9 @@
 // Currency spin edits: a currency edit with up and down arrows (TQORBaseSpinEdit: the clamp
 // of SetValue, UpClick/DownClick with the deliberate two-click wrap, the held arrow repeating
 // every Interval milliseconds, Page Up/Down stepping by PageStep, Up/Down keys and the mouse
-// wheel stepping by Step, and the Arrows styles).
+// wheel stepping by Step, and the Arrows styles). A click raises OnUpClick (OnDownClick)
+// before the step and OnAfterUpClick (OnAfterDownClick) after it, with the arrow button as
+// the sender; the inner edit's OnChange, OnNull and OnSpecialColor come from this control.
 //
 // Max, Min, Value, Step and PageStep are stored values of the class's amount type: cents for
 // TQORCurrSpinEdit (signed) and TQORLongCurrSpinEdit (unsigned), so Step 100 moves the amount
