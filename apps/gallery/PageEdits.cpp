@@ -1,11 +1,15 @@
 // The calculator edits and the currency edits. The standard calculator edit works through a
 // TQORCalculator component on the page (which hands its decimals back), the scientific one
 // through the scientific dialog; the currency edits show the formats side by side. Each edit
-// reports what it holds in the label beside it. The screenshot run also writes a calculator
-// open below its edit.
+// reports what it holds in the label beside it. The currency calculator edits and spin edits
+// follow (one spin edit wraps), then the union-currency list in its three formats with the
+// chosen currency's rate. The screenshot run also writes a calculator open below its edit.
 #include "GalleryPages.h"
 #include "QORKITCalcEdit.h"
+#include "QORKITCurrCalcEdit.h"
+#include "QORKITCurrComboBox.h"
 #include "QORKITCurrEdit.h"
+#include "QORKITCurrSpinEdit.h"
 #include "QORKITSciCalcEdit.h"
 #include "QORKITStrings.h"
 
@@ -13,6 +17,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMetaEnum>
 #include <QVBoxLayout>
 
 #include <functional>
@@ -130,12 +135,85 @@ QWidget* MakeCurrencyGroup(QWidget* parent)
     return group;
 }
 
+QWidget* MakeCurrencyToolsGroup(QWidget* parent)
+{
+    auto* group = new QGroupBox(QStringLiteral("Currency calculator and spin edits"), parent);
+    auto* form = new QFormLayout(group);
+
+    auto* currCalc = new TQORCurrCalcEdit(group);
+    currCalc->SetAsQORCurrency(1999);
+    AddRow(form, QStringLiteral("TQORCurrCalcEdit"), currCalc,
+           &TQORCurrCalcEdit::asQORCurrencyChanged,
+           [currCalc] { return QStringLiteral("= %1 cents").arg(currCalc->GetAsQORCurrency()); });
+    auto* longCalc = new TQORLongCurrCalcEdit(group);
+    longCalc->SetCalcGlyphType(cgtEllipsis);
+    longCalc->SetAsQORLongCurrency(250000);
+    AddRow(form, QStringLiteral("TQORLongCurrCalcEdit"), longCalc,
+           &TQORLongCurrCalcEdit::asQORLongCurrencyChanged, [longCalc] {
+               return QStringLiteral("= %1 cents").arg(longCalc->GetAsQORLongCurrency());
+           });
+    auto* currencyCalc = new TQORCurrencyCalcEdit(group);
+    currencyCalc->SetFormatType(cftCustom);
+    currencyCalc->SetCurrencyStr(QStringLiteral("\u20AC"));
+    currencyCalc->SetCurrencyFormat(cfNumberSpaceSymbol);
+    currencyCalc->SetAsCurrency(Currency::FromScaled(4995000));
+    AddRow(form, QStringLiteral("TQORCurrencyCalcEdit"), currencyCalc,
+           &TQORCurrencyCalcEdit::asCurrencyChanged, [currencyCalc] {
+               return ValueText(currencyCalc->GetNull(),
+                                currencyCalc->GetAsCurrency().ToExtended());
+           });
+
+    auto* currSpin = new TQORCurrSpinEdit(group);
+    currSpin->SetStep(25);
+    currSpin->SetValue(500);
+    AddRow(form, QStringLiteral("TQORCurrSpinEdit (step 0.25)"), currSpin,
+           &TQORBaseSpinEdit::valueChanged,
+           [currSpin] { return QStringLiteral("= %1 cents").arg(currSpin->GetAsQORCurrency()); });
+    auto* longSpin = new TQORLongCurrSpinEdit(group);
+    longSpin->SetMax(1000);
+    longSpin->SetWrap(true);
+    longSpin->SetArrows(saLeftRight);
+    longSpin->SetValue(900);
+    AddRow(form, QStringLiteral("TQORLongCurrSpinEdit (wraps at 10.00)"), longSpin,
+           &TQORBaseSpinEdit::valueChanged, [longSpin] {
+               return QStringLiteral("= %1 cents").arg(longSpin->GetAsQORLongCurrency());
+           });
+    auto* currencySpin = new TQORCurrencySpinEdit(group);
+    currencySpin->SetMin(-50);
+    currencySpin->SetStep(0.5L);
+    currencySpin->SetValue(-2.5L);
+    AddRow(form, QStringLiteral("TQORCurrencySpinEdit (step 0.50)"), currencySpin,
+           &TQORBaseSpinEdit::valueChanged, [currencySpin] {
+               return ValueText(currencySpin->GetNull(),
+                                currencySpin->GetAsCurrency().ToExtended());
+           });
+
+    // The union currencies as numbers, codes and country texts; the rate follows the choice.
+    const std::pair<TQOREMUFormatType, int> formats[]
+        = {{efNumber, 3}, {efCode, 5}, {efCountry, 11}};
+    for (const auto& [format, emu] : formats) {
+        auto* combo = new TQOREMUComboBox(group);
+        combo->SetEMUFormat(format);
+        combo->SetEMU(static_cast<std::uint8_t>(emu));
+        AddRow(form,
+               QStringLiteral("TQOREMUComboBox (%1)")
+                   .arg(QString::fromLatin1(
+                       QMetaEnum::fromType<TQOREMUFormatType>().valueToKey(format))),
+               combo, &TQOREMUComboBox::emuRateChanged, [combo] {
+                   return QStringLiteral("%1 per euro")
+                       .arg(QString::fromStdString(Float2EStr2(combo->GetEMURate(), 6)));
+               });
+    }
+    return group;
+}
+
 QWidget* MakeEditsPage(QWidget* parent)
 {
     auto* page = new QWidget(parent);
     auto* layout = new QVBoxLayout(page);
     layout->addWidget(MakeCalcEditGroup(page));
     layout->addWidget(MakeCurrencyGroup(page));
+    layout->addWidget(MakeCurrencyToolsGroup(page));
     layout->addStretch(1);
     page->setMinimumWidth(560);
     return page;

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QResizeEvent>
 #include <QToolButton>
+#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -191,8 +192,29 @@ bool TQORBaseSpinEdit::eventFilter(QObject* watched, QEvent* event)
             }
         }
     }
+    if (watched == editor_ && event->type() == QEvent::Wheel)
+        return WheelStep(static_cast<QWheelEvent*>(event));
     return QWidget::eventFilter(watched, event);
 }
+
+bool TQORBaseSpinEdit::WheelStep(QWheelEvent* event)
+{
+    // One step per notch (a high-resolution wheel's partial notches add up to one).
+    wheelDelta_ += event->angleDelta().y();
+    constexpr int Notch = 120;
+    while (wheelDelta_ >= Notch) {
+        wheelDelta_ -= Notch;
+        UpClick(this);
+    }
+    while (wheelDelta_ <= -Notch) {
+        wheelDelta_ += Notch;
+        DownClick(this);
+    }
+    event->accept();
+    return true;
+}
+
+void TQORBaseSpinEdit::wheelEvent(QWheelEvent* event) { WheelStep(event); }
 
 void TQORBaseSpinEdit::LayoutChildren()
 {

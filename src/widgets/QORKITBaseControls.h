@@ -115,6 +115,8 @@ protected:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    // The mouse wheel steps by Step, over the edit or the arrows.
+    void wheelEvent(QWheelEvent* event) override;
 
 private:
     double GetMaxDouble() const { return static_cast<double>(max_); }
@@ -131,6 +133,7 @@ private:
     void SetRange(Extended min, Extended max, bool unbounded);
     // Steps by `amount` in `direction` (+1 up, -1 down) with the clamp and wrap rules.
     void Spin(int direction, Extended amount, QObject* sender);
+    bool WheelStep(QWheelEvent* event);
     void LayoutChildren();
     void UpdateButtons();
 
@@ -145,6 +148,7 @@ private:
     bool wrap_ = false;
     int interval_ = 100;
     TQORSpinArrows arrows_ = saUpDown;
+    int wheelDelta_ = 0;
     TQORNotifyEvent onUpClick_;
     TQORNotifyEvent onDownClick_;
     TQORNotifyEvent onAfterUpClick_;

@@ -103,6 +103,14 @@ enum TQORComboStyle : std::uint8_t {
 };
 Q_ENUM_NS(TQORComboStyle)
 
+// What a union-currency combo box lists and shows.
+enum TQOREMUFormatType : std::uint8_t {
+    efNumber = 0, // the currency numbers 1 to 12
+    efCode = 1, // the currency codes
+    efCountry = 2, // the country texts
+};
+Q_ENUM_NS(TQOREMUFormatType)
+
 enum TQORBevel : std::uint8_t { bvNone = 0, bvLowered = 1, bvRaised = 2 };
 Q_ENUM_NS(TQORBevel)
 

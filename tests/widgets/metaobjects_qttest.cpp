@@ -8,7 +8,10 @@
 #include "QORKITCalculator.h"
 #include "QORKITComplexEdit.h"
 #include "QORKITConvertors.h"
+#include "QORKITCurrCalcEdit.h"
+#include "QORKITCurrComboBox.h"
 #include "QORKITCurrEdit.h"
+#include "QORKITCurrSpinEdit.h"
 #include "QORKITDMSEdit.h"
 #include "QORKITEditColors.h"
 #include "QORKITEngineObjects.h"
@@ -77,6 +80,15 @@ const QMetaObject* const LibraryClasses[] = {&TQOREditColorSet::staticMetaObject
                                              &TQORExpressEdit::staticMetaObject,
                                              &TQORComplexEdit::staticMetaObject,
                                              &TQORDMSEdit::staticMetaObject,
+                                             &TQORCurrCalcEditBase::staticMetaObject,
+                                             &TQORCurrCalcEdit::staticMetaObject,
+                                             &TQORLongCurrCalcEdit::staticMetaObject,
+                                             &TQORCurrencyCalcEdit::staticMetaObject,
+                                             &TQORBaseCurrSpinEdit::staticMetaObject,
+                                             &TQORCurrSpinEdit::staticMetaObject,
+                                             &TQORLongCurrSpinEdit::staticMetaObject,
+                                             &TQORCurrencySpinEdit::staticMetaObject,
+                                             &TQOREMUComboBox::staticMetaObject,
 #define QORKIT_SURVEY_CONVERTOR(convertor, type, key) &convertor::staticMetaObject,
                                              QORKIT_CONVERTOR_LIST(QORKIT_SURVEY_CONVERTOR)
 #undef QORKIT_SURVEY_CONVERTOR
