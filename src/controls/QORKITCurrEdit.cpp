@@ -5,6 +5,7 @@
 #include "QORKITMath.h"
 #include "QORKITSettings.h"
 #include "QORKITStrings.h"
+#include "QORKITTranslation.h"
 #include "QORKIT_RS_Calc.h"
 
 #include <QApplication>
@@ -79,14 +80,12 @@ private:
 
 int SignOf(Extended v) { return static_cast<int>(QORSign(v)); }
 
-QString ToQ(const std::string& s) { return QString::fromStdString(s); }
-
 } // namespace
 
 // ---- TQORBaseCurrEdit ------------------------------------------------------------------------
 
 TQORBaseCurrEdit::TQORBaseCurrEdit(QWidget* parent)
-    : TQORStartEdit(parent), currencyStr_(ToQ(FormatSettings.CurrencyString).trimmed()),
+    : TQORStartEdit(parent), currencyStr_(ToQString(FormatSettings.CurrencyString).trimmed()),
       currencyFormat_(static_cast<TCurrencyFormatType>(
           std::min<int>(FormatSettings.CurrencyFormat, cfNumberSpaceSymbol))),
       negativeFormat_(static_cast<TNegativeFormatType>(
@@ -117,19 +116,13 @@ bool TQORBaseCurrEdit::Restyle(T& field, T value, void (TQORBaseCurrEdit::*chang
 
 char TQORBaseCurrEdit::DecimalChar() const
 {
-    return customSeparators_ ? customDecimal_ : FormatSettings.DecimalSeparator;
+    return EditDecimalChar(customSeparators_, customDecimal_);
 }
 
 char TQORBaseCurrEdit::ThousandChar() const
 {
-    char c = FormatSettings.ThousandSeparator;
-    if (customSeparators_)
-        c = customThousands_;
-    else if (thousandSeparators_ == tsSpace)
-        c = ' ';
-    else if (thousandSeparators_ == tsApostrophe)
-        c = '\'';
-    return c == DecimalChar() ? '\0' : c;
+    return EditThousandChar(customSeparators_, customDecimal_, customThousands_,
+                            thousandSeparators_);
 }
 
 QString TQORBaseCurrEdit::CurrencySymbol() const
@@ -141,7 +134,7 @@ QString TQORBaseCurrEdit::CurrencySymbol() const
         if (!symbol.isEmpty())
             return symbol;
     }
-    return ToQ(FormatSettings.CurrencyString).trimmed();
+    return ToQString(FormatSettings.CurrencyString).trimmed();
 }
 
 TCurrencyFormatType TQORBaseCurrEdit::PositiveFormatInForce() const
@@ -169,7 +162,7 @@ QString TQORBaseCurrEdit::FormatAmount(Extended amount) const
     const bool grouped = showThousandSeparators_ && thousands != '\0';
     // The text routines read the separators at each call: give them this edit's.
     const TQORSeparatorScope scope(true, DecimalChar(), grouped ? thousands : '\0');
-    return ToQ(grouped ? Float2CEStr(amount, decimals_) : Float2EStr(amount, decimals_));
+    return ToQString(grouped ? Float2CEStr(amount, decimals_) : Float2EStr(amount, decimals_));
 }
 
 QString TQORBaseCurrEdit::FormatCurrency(Extended amount) const
@@ -215,7 +208,7 @@ void TQORBaseCurrEdit::SetCurrencyStr(const QString& value)
         return;
     if (formatType_ != cftCustom) {
         if (designMode_)
-            ShowError(ToQ(rsCurrencyFormat1()));
+            ShowError(ToQString(rsCurrencyFormat1()));
         return;
     }
     Restyle(currencyStr_, trimmed, &TQORBaseCurrEdit::currencyStrChanged);
@@ -227,7 +220,7 @@ void TQORBaseCurrEdit::SetCurrencyFormat(TCurrencyFormatType value)
         return;
     if (formatType_ != cftCustom) {
         if (designMode_)
-            ShowError(ToQ(rsCurrencyFormat2()));
+            ShowError(ToQString(rsCurrencyFormat2()));
         return;
     }
     Restyle(currencyFormat_, value, &TQORBaseCurrEdit::currencyFormatChanged);
@@ -239,7 +232,7 @@ void TQORBaseCurrEdit::SetNegativeFormat(TNegativeFormatType value)
         return;
     if (formatType_ != cftCustom) {
         if (designMode_)
-            ShowError(ToQ(rsCurrencyFormat3()));
+            ShowError(ToQString(rsCurrencyFormat3()));
         return;
     }
     Restyle(negativeFormat_, value, &TQORBaseCurrEdit::negativeFormatChanged);
@@ -250,7 +243,8 @@ void TQORBaseCurrEdit::SetDecimals(std::uint8_t value)
     if (value == decimals_)
         return;
     if (value > maxDecimals_) {
-        ShowError(ToQ(rsCannot()) + QString::number(maxDecimals_) + ToQ(rsDecimalPlaces()));
+        ShowError(ToQString(rsCannot()) + QString::number(maxDecimals_)
+                  + ToQString(rsDecimalPlaces()));
         return;
     }
     Restyle(decimals_, value, &TQORBaseCurrEdit::decimalPlacesChanged);
@@ -369,7 +363,7 @@ bool TQORBaseCurrEdit::SetScaledFloat2(Extended amount)
 bool TQORBaseCurrEdit::Store(Extended value, const QString& shown, bool redisplay)
 {
     if (!std::isfinite(value)) {
-        ReportValidationError(ToQ(rsValueNotFinite()));
+        ReportValidationError(ToQString(rsValueNotFinite()));
         return false;
     }
     if (value == value_ && !GetNull()) {
@@ -379,7 +373,7 @@ bool TQORBaseCurrEdit::Store(Extended value, const QString& shown, bool redispla
     }
     pending_ = value;
     if (!DoBoundsValidation()) {
-        ReportValidationError(ToQ(FormatMessage(rsValueOutOfBounds(), shown.toStdString())));
+        ReportValidationError(ToQString(FormatMessage(rsValueOutOfBounds(), shown.toStdString())));
         return false;
     }
     const bool wasNull = GetNull();
@@ -436,7 +430,7 @@ void TQORBaseCurrEdit::Convert2Value()
         // when the scopes end, also when the parse throws.
         const TQORSeparatorScope separators(true, DecimalChar(), ThousandChar());
         const CurrencySymbolScope symbol(CurrencySymbol());
-        const QString stripped = ToQ(StripCurrencyString(text().toStdString()));
+        const QString stripped = ToQString(StripCurrencyString(text().toStdString()));
         bool handled = false;
         try {
             if (onConvert_) {
@@ -476,7 +470,7 @@ void TQORBaseCurrEdit::DoThousands()
     const TQORSeparatorScope separators(true, DecimalChar(), ThousandChar());
     const QString before = text();
     const int caret = cursorPosition();
-    QString s = ToQ(StripThousandSeparators(before.toStdString()));
+    QString s = ToQString(StripThousandSeparators(before.toStdString()));
     const char thousands = FormatSettings.ThousandSeparator;
     if (showThousandSeparators_ && thousands != '\0') {
         qsizetype p = s.indexOf(QLatin1Char(FormatSettings.DecimalSeparator));

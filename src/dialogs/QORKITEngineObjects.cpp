@@ -1,12 +1,12 @@
 #include "QORKITEngineObjects.h"
 
+#include "QORKITTranslation.h"
+
 #include <cmath>
 
 namespace qorkit {
 
 namespace {
-
-QString ToQ(const std::string& s) { return QString::fromStdString(s); }
 
 // Calls `signal` on `front` when `cache` differs from `value`, after taking the value over.
 template<class Front, class T, class Arg>
@@ -121,15 +121,18 @@ void TQORCalcEngineObject::Attach()
     });
 }
 
-QString TQORCalcEngineObject::GetDisplayText() const { return ToQ(engine_->GetDisplayStr()); }
-QString TQORCalcEngineObject::GetMemoryText() const { return ToQ(engine_->GetMemoryContents()); }
-QString TQORCalcEngineObject::GetLastError() const { return ToQ(engine_->GetLastError()); }
+QString TQORCalcEngineObject::GetDisplayText() const { return ToQString(engine_->GetDisplayStr()); }
+QString TQORCalcEngineObject::GetMemoryText() const
+{
+    return ToQString(engine_->GetMemoryContents());
+}
+QString TQORCalcEngineObject::GetLastError() const { return ToQString(engine_->GetLastError()); }
 
 QStringList TQORCalcEngineObject::GetTape() const
 {
     QStringList lines;
     for (const auto& line : engine_->GetHistory())
-        lines << ToQ(line);
+        lines << ToQString(line);
     return lines;
 }
 
@@ -204,19 +207,25 @@ void TQORProgCalcEngineObject::Attach()
     });
 }
 
-QString TQORProgCalcEngineObject::GetDisplayText() const { return ToQ(engine_->GetDisplayStr()); }
+QString TQORProgCalcEngineObject::GetDisplayText() const
+{
+    return ToQString(engine_->GetDisplayStr());
+}
 QString TQORProgCalcEngineObject::GetMemoryText() const
 {
-    return ToQ(engine_->GetMemoryContents());
+    return ToQString(engine_->GetMemoryContents());
 }
-QString TQORProgCalcEngineObject::GetLastError() const { return ToQ(engine_->GetLastError()); }
+QString TQORProgCalcEngineObject::GetLastError() const
+{
+    return ToQString(engine_->GetLastError());
+}
 
 QStringList TQORProgCalcEngineObject::GetTape() const
 {
     QStringList lines;
     const std::int32_t count = engine_->GetHistoryLength();
     for (std::int32_t i = 0; i < count; ++i)
-        lines << ToQ(engine_->GetHistoryEntry(static_cast<std::uint16_t>(i)));
+        lines << ToQString(engine_->GetHistoryEntry(static_cast<std::uint16_t>(i)));
     return lines;
 }
 

@@ -3,6 +3,7 @@
 #include "QORKITRegIni.h"
 #include "QORKITSettings.h"
 #include "QORKITTapeModel.h"
+#include "QORKITTranslation.h"
 #include "QORKIT_RS_Dialogs.h"
 
 #include <array>
@@ -162,8 +163,6 @@ const TQORStoreKey ProgStoreKeys[] = {
     {"Stay On Top", "StayOnTop"},
 };
 
-QString ToQ(const std::string& s) { return QString::fromStdString(s); }
-
 } // namespace
 
 TQORProgCalcForm::TQORProgCalcForm(QWidget* parent)
@@ -187,7 +186,7 @@ TQORProgCalcForm::TQORProgCalcForm(QWidget* parent)
         engine_.SetBitSize(static_cast<TQORBitSize>(BitsCombo->GetItemIndex()));
     });
 
-    ApplyDispFont(ToQ(QORCalcDispFont));
+    ApplyDispFont(ToQString(QORCalcDispFont));
     UpdateLanguage();
 
     PlaceKeys(ProgPlaces, ProgGeometry.Rows);
@@ -212,7 +211,7 @@ TQORProgCalcForm::TQORProgCalcForm(QWidget* parent)
             [this] { SetPanelText(MemoryDisplay, engineObject_->GetMemoryText(), true); });
     connect(front, &TQORProgCalcEngineObject::baseDisplayChange, this,
             &TQORProgCalcForm::EnableDigits);
-    ShowFitted(ValueDisplay, ToQ(engine_.GetDisplayStr()));
+    ShowFitted(ValueDisplay, ToQString(engine_.GetDisplayStr()));
     SetTapeModel(new TQORTapeModel(engine_, this));
     InstallKeyPreview();
 }
@@ -228,7 +227,7 @@ void TQORProgCalcForm::LoadLists()
         const QSignalBlocker quiet(combo);
         combo->clear();
         for (int i = 0; i < 4; ++i)
-            combo->addItem(ToQ(texts[i]()));
+            combo->addItem(ToQString(texts[i]()));
         combo->SetItemIndex(selected);
     }
 }
@@ -237,12 +236,12 @@ void TQORProgCalcForm::UpdateLanguage()
 {
     TQORCalcFormBase::UpdateLanguage();
     LoadLists();
-    BaseCombo->setToolTip(ToQ(rsBaseHint()));
-    BitsCombo->setToolTip(ToQ(rsBitsHint()));
-    BaseCombo->setAccessibleName(ToQ(rsBaseAccName()));
-    BaseCombo->setAccessibleDescription(ToQ(rsBaseHint()));
-    BitsCombo->setAccessibleName(ToQ(rsBitsAccName()));
-    BitsCombo->setAccessibleDescription(ToQ(rsBitsHint()));
+    BaseCombo->setToolTip(ToQString(rsBaseHint()));
+    BitsCombo->setToolTip(ToQString(rsBitsHint()));
+    BaseCombo->setAccessibleName(ToQString(rsBaseAccName()));
+    BaseCombo->setAccessibleDescription(ToQString(rsBaseHint()));
+    BitsCombo->setAccessibleName(ToQString(rsBitsAccName()));
+    BitsCombo->setAccessibleDescription(ToQString(rsBitsHint()));
 }
 
 std::vector<std::span<const TQORCharKey>> TQORProgCalcForm::CharKeys() const
@@ -267,8 +266,8 @@ void TQORProgCalcForm::RefreshDisplays()
 {
     BaseCombo->SetItemIndex(engine_.GetBaseDisplay());
     BitsCombo->SetItemIndex(engine_.GetBitSize());
-    ShowFitted(MemoryDisplay, ToQ(engine_.GetMemoryContents()));
-    ShowFitted(ValueDisplay, ToQ(engine_.GetDisplayStr()));
+    ShowFitted(MemoryDisplay, ToQString(engine_.GetMemoryContents()));
+    ShowFitted(ValueDisplay, ToQString(engine_.GetDisplayStr()));
     EnableDigits();
 }
 
@@ -277,7 +276,7 @@ void TQORProgCalcForm::RefreshDisplays()
 TQORProgCalculator::TQORProgCalculator(QObject* owner) : TQORCalcComponentT(owner)
 {
     SetPrefixFunctions(true);
-    SetDispFont(ToQ(QORCalcDispFont));
+    SetDispFont(ToQString(QORCalcDispFont));
 }
 
 void TQORProgCalculator::SetMemory(std::int64_t value)
@@ -348,7 +347,7 @@ bool DisplayProgCalcPos(const std::string& Title, std::int64_t& Value, std::int3
     LoadCalculatorSettings();
     engine.SetMemory(QORProgCalcMemory);
     form.MoveTo(X, Y);
-    form.setWindowTitle(ToQ(Title));
+    form.setWindowTitle(ToQString(Title));
     engine.InputValue(Value);
     form.RefreshDisplays();
     form.SetCalcFlat(Flat);

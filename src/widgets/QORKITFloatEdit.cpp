@@ -155,21 +155,33 @@ void TQORFloatEdit::SetCustomSeparators(bool value)
     Restyle(customSeparators_, value, &TQORFloatEdit::customSeparatorsChanged);
 }
 
+char EditDecimalChar(bool customSeparators, char customDecimal)
+{
+    return customSeparators ? customDecimal : FormatSettings.DecimalSeparator;
+}
+
+char EditThousandChar(bool customSeparators, char customDecimal, char customThousands,
+                      TQORThousandSeparators style)
+{
+    char c = FormatSettings.ThousandSeparator;
+    if (customSeparators)
+        c = customThousands;
+    else if (style == tsSpace)
+        c = ' ';
+    else if (style == tsApostrophe)
+        c = '\'';
+    return c == EditDecimalChar(customSeparators, customDecimal) ? '\0' : c;
+}
+
 char TQORFloatEdit::DecimalChar() const
 {
-    return customSeparators_ ? customDecimal_ : FormatSettings.DecimalSeparator;
+    return EditDecimalChar(customSeparators_, customDecimal_);
 }
 
 char TQORFloatEdit::ThousandChar() const
 {
-    char c = FormatSettings.ThousandSeparator;
-    if (customSeparators_)
-        c = customThousands_;
-    else if (thousandSeparators_ == tsSpace)
-        c = ' ';
-    else if (thousandSeparators_ == tsApostrophe)
-        c = '\'';
-    return c == DecimalChar() ? '\0' : c;
+    return EditThousandChar(customSeparators_, customDecimal_, customThousands_,
+                            thousandSeparators_);
 }
 
 bool TQORFloatEdit::IsInBounds(Extended value) const

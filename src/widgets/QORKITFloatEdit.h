@@ -42,6 +42,13 @@ namespace qorkit {
 QORKIT_FLOATEDIT_TEXTS(QORKIT_DECLARE_TEXT)
 QORKIT_WIDGETS_EXPORT std::span<const TResourceText> FloatEditTexts();
 
+// The separators of a number edit: its own with CustomSeparators, otherwise the locale's
+// decimal separator and the grouping character `style` names. The grouping character is 0 when
+// it would equal the decimal separator.
+QORKIT_WIDGETS_EXPORT char EditDecimalChar(bool customSeparators, char customDecimal);
+QORKIT_WIDGETS_EXPORT char EditThousandChar(bool customSeparators, char customDecimal,
+                                            char customThousands, TQORThousandSeparators style);
+
 // Evaluates an expression typed into an edit that allows expressions; throws a
 // qorkit::Exception for text it cannot evaluate.
 using TQORExpressionEvaluator = std::function<Extended(const std::string& expression)>;
