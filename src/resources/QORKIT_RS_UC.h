@@ -1306,7 +1306,7 @@ namespace qorkit {
     X(QORKIT_UC_RADDOSE_NAMES, RadDose)                                                            \
     X(QORKIT_UC_RADABSORPTION_NAMES, RadAbsorption)
 
-#define QORKIT_UC_DECLARE_NAME(member, text) std::string rsName_##member();
+#define QORKIT_UC_DECLARE_NAME(member, text) QORKIT_CORE_EXPORT std::string rsName_##member();
 #define QORKIT_UC_DECLARE_LIST(list, stem) list(QORKIT_UC_DECLARE_NAME)
 QORKIT_UC_NAME_LISTS(QORKIT_UC_DECLARE_LIST)
 QORKIT_RS_UC_TEXTS(QORKIT_DECLARE_TEXT)
