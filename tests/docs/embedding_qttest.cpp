@@ -36,9 +36,11 @@ TEST_F(EmbeddingGuide, LabelFollowsTheEditsChangesAndRefusals)
     QTest::keyClicks(edit->GetEdit(), QStringLiteral("1234.5"));
     QTest::keyClick(edit->GetEdit(), Qt::Key_Return);
     EXPECT_EQ(status->text(), QStringLiteral("Amount: 1234.5"));
+    edit->clearFocus(); // the formatted text shows when the edit is left
     EXPECT_EQ(edit->GetText(), QStringLiteral("1 234.50")); // grouping by its name, 2 decimals
 
     // Beyond the upper bound: refused with a message, the amount stays.
+    edit->setFocus(Qt::TabFocusReason);
     edit->SelectAll();
     QTest::keyClicks(edit->GetEdit(), QStringLiteral("2000000"));
     QTest::keyClick(edit->GetEdit(), Qt::Key_Return);
