@@ -1,5 +1,9 @@
-# Checks one shared library of a shared build: readelf shows its SONAME, and every symbol its
-# dynamic table defines is the library's own (in namespace qorkit, or a qt_ meta function).
+# Checks one shared library of a shared build: readelf shows its SONAME, every symbol its
+# dynamic table defines is the library's own (in namespace qorkit, or a qt_ meta function), and
+# no object file of the library defines a global function or variable of namespace qorkit that
+# stays hidden (a declaration in a public header that lacks its export macro: a host would fail
+# to link against it). Internal ones are allowed: moc's static meta-call, the engines' toolkit,
+# the embedded resources.
 function(run out)
     execute_process(COMMAND ${ARGN} OUTPUT_VARIABLE text RESULT_VARIABLE rc)
     if(NOT rc EQUAL 0)
@@ -30,5 +34,22 @@ foreach(line IN LISTS symbols)
 endforeach()
 if(foreign)
     message(FATAL_ERROR "${LIBRARY} exports symbols that are not the library's own:\n${foreign}")
+endif()
+set(hidden "")
+foreach(object IN LISTS OBJECTS)
+    run(table readelf -sW --demangle ${object})
+    string(REPLACE "\n" ";" table "${table}")
+    foreach(line IN LISTS table)
+        # "Num: Value Size Type Bind Vis Ndx Name"
+        if(line MATCHES "^ *[0-9]+: [0-9a-f]+ +[0-9]+ (FUNC|OBJECT) +GLOBAL +HIDDEN +[0-9]+ (.*)$")
+            set(name "${CMAKE_MATCH_2}")
+            if(name MATCHES "qorkit::" AND NOT name MATCHES "qt_static_metacall|engine_internal|anonymous namespace")
+                string(APPEND hidden "  ${name}\n")
+            endif()
+        endif()
+    endforeach()
+endforeach()
+if(hidden)
+    message(FATAL_ERROR "${LIBRARY} defines symbols that lack the export macro:\n${hidden}")
 endif()
 message(STATUS "${LIBRARY}: SONAME ${SONAME}, ${count} exported symbols, all the library's own")
