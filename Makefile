@@ -73,7 +73,8 @@ designer: configure
 	cmake --build $(BUILD) -j $(JOBS) --target designer
 
 # The shared libraries (-DBUILD_SHARED_LIBS=ON): SONAMEs and exported symbols, the installed
-# package's consumer, the Designer plugin and a few test programs against the .so files.
+# package's consumer and the installed Designer plugin loaded from the prefix, and a few test
+# programs against the .so files. Builds only what these need.
 test-shared: deps
 	cmake -S . -B $(SHARED_BUILD) -G Ninja -DQORKIT_WERROR=$(WERROR) -DBUILD_SHARED_LIBS=ON \
 	    -DQORKIT_BUILD_BENCH=OFF $(CMAKE_ARGS)
