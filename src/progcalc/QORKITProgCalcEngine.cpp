@@ -485,32 +485,65 @@ std::string TQORProgCalcEngine::CurrentText() const
 
 void TQORProgCalcEngine::ShowCurrentText()
 {
-    if (const std::string* text = BaseText())
+    if (const std::string* text = BaseText()) {
         display_ = *text;
-    else
-        display_ = DisplayValue(value_);
+        // Value texts are digits only; rejected hexadecimal digits may be anything.
+        displayPlain_ = texts_.RejectedHex ? kPlainUnknown : kPlain;
+    } else {
+        FormatValue(display_, value_, baseDisplay_, bitSize_, spacing_, maxDisplayLength_);
+        displayPlain_ = GroupWidth() == 0 ? kPlain : kPlainUnknown;
+    }
     Notify(onDisplayChange_);
 }
 
 void TQORProgCalcEngine::SetDisplayValue0()
 {
     FormatValue(display_, 0, baseDisplay_, bitSize_, spacing_, maxDisplayLength_);
+    displayPlain_ = GroupWidth() == 0 ? kPlain : kPlainUnknown;
     Notify(onDisplayChange_);
 }
 
 void TQORProgCalcEngine::SetDisplayValue(const std::string& s)
 {
     display_ = s;
+    displayPlain_ = kPlainUnknown;
     Notify(onDisplayChange_);
+}
+
+void TQORProgCalcEngine::ShowEntry()
+{
+    display_ = entry_;
+    displayPlain_ = entryPlain_ ? kPlain : kNotPlain;
+    Notify(onDisplayChange_);
+}
+
+void TQORProgCalcEngine::KnowEntryBits(std::uint64_t bits, bool negative) noexcept
+{
+    entryBits_ = bits;
+    entryNegative_ = negative;
+    entryBase_ = baseDisplay_;
+    entryBitsKnown_ = true;
+    entryPlain_ = true;
+}
+
+void TQORProgCalcEngine::EntryChanged() noexcept
+{
+    entryBitsKnown_ = false;
+    entryPlain_ = std::memchr(entry_.data(), ' ', entry_.size()) == nullptr;
 }
 
 const std::string& TQORProgCalcEngine::GetDisplayStr() const
 {
     // Without spacing a display free of blanks is its own text, the error message included.
     const int width = GroupWidth();
-    if (width == 0 && !display_.empty()
-        && std::memchr(display_.data(), ' ', display_.size()) == nullptr)
-        return display_;
+    if (width == 0 && !display_.empty()) {
+        if (displayPlain_ == kPlainUnknown)
+            displayPlain_ = std::memchr(display_.data(), ' ', display_.size()) == nullptr
+                ? kPlain
+                : kNotPlain;
+        if (displayPlain_ == kPlain)
+            return display_;
+    }
     if (display_ == rsErrorMsg())
         return display_;
     Regroup(shown_, display_, width);
@@ -678,53 +711,26 @@ void TQORProgCalcEngine::Numeric(char ch)
 {
     if (ch >= 'a' && ch <= 'z')
         ch = static_cast<char>(ch - 'a' + 'A');
-    bool valid = false;
-    switch (baseDisplay_) {
-    case bdBinary:
-        valid = ch == '0' || ch == '1';
-        break;
-    case bdOctal:
-        valid = ch >= '0' && ch <= '7';
-        break;
-    case bdDecimal:
-        valid = (ch >= '0' && ch <= '9') || ch == '+' || ch == '-';
-        break;
-    default:
-        valid = (ch >= '0' && ch <= '9') || (ch >= 'A' && ch <= 'F');
-        break;
-    }
-    if (!valid)
+    // Radix and longest entry by base ordinal (binary, decimal, hexadecimal, octal); any other
+    // base works as hexadecimal.
+    static constexpr unsigned kRadix[] = {2, 10, 16, 8};
+    const TDigitCounts& counts = kDigitCounts[bitSize_ & 3U];
+    const auto base = static_cast<unsigned>(baseDisplay_ <= bdOctal ? baseDisplay_ : bdHexadecimal);
+    const int limits[] = {counts.Bin, kMaxDecimalEntry, counts.Hex, counts.Oct};
+    const std::uint8_t digit = kDigitValues[static_cast<unsigned char>(ch)];
+    const bool sign = ch == '+' || ch == '-';
+    if (!(digit < kRadix[base] || (sign && baseDisplay_ == bdDecimal)))
         return;
 
     // Leading zeros go; they leave the entry's value as it is.
     if (!entry_.empty() && entry_.front() == '0')
         entry_.erase(0, entry_.find_first_not_of('0'));
-    if (ch == '+' || ch == '-') {
+    if (sign) {
         entry_.insert(entry_.begin(), ch);
         EntryChanged();
-    } else {
-        int hexChars = 0;
-        int octChars = 0;
-        int binChars = 0;
-        GetNoChars(hexChars, octChars, binChars);
-        int limit = hexChars;
-        switch (baseDisplay_) {
-        case bdBinary:
-            limit = binChars;
-            break;
-        case bdOctal:
-            limit = octChars;
-            break;
-        case bdDecimal:
-            limit = kMaxDecimalEntry;
-            break;
-        default:
-            break;
-        }
-        if (static_cast<int>(entry_.size()) < limit) {
-            entry_ += ch;
-            AppendEntryBits(ch);
-        }
+    } else if (static_cast<int>(entry_.size()) < limits[base]) {
+        entry_.push_back(ch);
+        AppendEntryBits(digit);
     }
     // Signs are only ever at the front of an entry, so without one there is nothing to clean.
     if (!entry_.empty() && (entry_.front() == '+' || entry_.front() == '-')) {
@@ -733,16 +739,15 @@ void TQORProgCalcEngine::Numeric(char ch)
         if (entry_.size() != before)
             EntryChanged();
     }
-    SetDisplayValue(entry_);
+    ShowEntry();
     lastKey_ = ch;
 }
 
 // The kept bits of an entry that has just had a digit appended.
-void TQORProgCalcEngine::AppendEntryBits(char digitChar)
+void TQORProgCalcEngine::AppendEntryBits(std::uint64_t digit)
 {
     if (!entryBitsKnown_ || entryBase_ != baseDisplay_)
         return;
-    const std::uint64_t digit = kDigitValues[static_cast<unsigned char>(digitChar)];
     if (baseDisplay_ == bdDecimal) {
         // -(10m + d) is 10(-m) - d: the sign stays outside the digits.
         entryBits_ = entryNegative_ ? entryBits_ * 10U - digit : entryBits_ * 10U + digit;
@@ -758,7 +763,7 @@ void TQORProgCalcEngine::InputDigit(char ch)
     // A zero entry keeps just its sign and one zero; the display is left as typed.
     if (GetDisplayValue() == 0) {
         entry_ = (!entry_.empty() && entry_.front() == '-') ? "-0" : "0";
-        EntryChanged();
+        KnowEntryBits(0, entry_.front() == '-');
     }
 }
 
@@ -768,7 +773,7 @@ void TQORProgCalcEngine::InputBackspace()
         return;
     entry_.pop_back();
     EntryChanged();
-    SetDisplayValue(entry_);
+    ShowEntry();
 }
 
 void TQORProgCalcEngine::InputString(const std::string& s)
@@ -1101,6 +1106,7 @@ void TQORProgCalcEngine::SetBaseDisplay(TQORBaseDisplay value)
     if (pending) {
         ClearEntry();
         display_.clear();
+        displayPlain_ = kPlainUnknown;
     } else {
         ChangeValues(baseDisplay_, value);
     }

@@ -307,13 +307,16 @@ private:
     void ShowCurrentText(); // SetDisplayValue(CurrentText()) without a temporary text
     const std::string& DisplayValueIn(TQORBaseDisplay textBase);
     bool OperatorPending() const;
-    void EntryChanged() noexcept { entryBitsKnown_ = false; } // after any edit but a digit's
+    void EntryChanged() noexcept; // after any edit of the entry but a digit's
+    // The entry's bits, sign and blank-free state, for an entry just set to digits.
+    void KnowEntryBits(std::uint64_t bits, bool negative) noexcept;
     void ClearEntry() noexcept
     {
         entry_.clear();
-        entryBitsKnown_ = false;
+        KnowEntryBits(0, false);
     }
-    void AppendEntryBits(char digitChar);
+    void ShowEntry(); // the entry as the display
+    void AppendEntryBits(std::uint64_t digit);
 
     // Operand slots, loaded with the word-size parts of the two top operands before each
     // evaluation step (A the right-hand operand, B the left-hand one).
@@ -332,6 +335,7 @@ private:
     std::uint64_t entryBits_ = 0;
     bool entryNegative_ = false;
     bool entryBitsKnown_ = false;
+    bool entryPlain_ = true; // the entry holds no blank
     TQORBaseDisplay entryBase_ = bdBinary;
     std::int64_t value_ = 0;
     // The value texts in base 16, 8 and 2, cut and zero-filled to a size: they are the bit
@@ -351,6 +355,9 @@ private:
     const std::string& ValueText(TTextBase which) const;
     bool EntryValue(std::uint64_t& bits); // the entry's bits without any text
     std::string display_;
+    // Whether the display holds no blank, when known (most displays are known to be digits).
+    enum TPlain : std::int8_t { kPlainUnknown = -1, kNotPlain = 0, kPlain = 1 };
+    mutable TPlain displayPlain_ = kPlainUnknown;
     // Texts handed out by reference: the grouped display, the three value texts of the
     // getters (hex, octal, binary), the memory, and the last history line regrouped.
     mutable std::string shown_;
