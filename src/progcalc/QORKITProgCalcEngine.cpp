@@ -487,10 +487,12 @@ void TQORProgCalcEngine::ShowCurrentText()
 {
     if (const std::string* text = BaseText()) {
         display_ = *text;
+        displayIsEntry_ = false;
         // Value texts are digits only; rejected hexadecimal digits may be anything.
         displayPlain_ = texts_.RejectedHex ? kPlainUnknown : kPlain;
     } else {
         FormatValue(display_, value_, baseDisplay_, bitSize_, spacing_, maxDisplayLength_);
+        displayIsEntry_ = false;
         displayPlain_ = GroupWidth() == 0 ? kPlain : kPlainUnknown;
     }
     Notify(onDisplayChange_);
@@ -499,6 +501,7 @@ void TQORProgCalcEngine::ShowCurrentText()
 void TQORProgCalcEngine::SetDisplayValue0()
 {
     FormatValue(display_, 0, baseDisplay_, bitSize_, spacing_, maxDisplayLength_);
+    displayIsEntry_ = false;
     displayPlain_ = GroupWidth() == 0 ? kPlain : kPlainUnknown;
     Notify(onDisplayChange_);
 }
@@ -506,13 +509,14 @@ void TQORProgCalcEngine::SetDisplayValue0()
 void TQORProgCalcEngine::SetDisplayValue(const std::string& s)
 {
     display_ = s;
+    displayIsEntry_ = false;
     displayPlain_ = kPlainUnknown;
     Notify(onDisplayChange_);
 }
 
 void TQORProgCalcEngine::ShowEntry()
 {
-    display_ = entry_;
+    displayIsEntry_ = true; // no copy: the entry is shown until it next changes
     displayPlain_ = entryPlain_ ? kPlain : kNotPlain;
     Notify(onDisplayChange_);
 }
@@ -536,17 +540,17 @@ const std::string& TQORProgCalcEngine::GetDisplayStr() const
 {
     // Without spacing a display free of blanks is its own text, the error message included.
     const int width = GroupWidth();
-    if (width == 0 && !display_.empty()) {
+    const std::string& display = Shown();
+    if (width == 0 && !display.empty()) {
         if (displayPlain_ == kPlainUnknown)
-            displayPlain_ = std::memchr(display_.data(), ' ', display_.size()) == nullptr
-                ? kPlain
-                : kNotPlain;
+            displayPlain_
+                = std::memchr(display.data(), ' ', display.size()) == nullptr ? kPlain : kNotPlain;
         if (displayPlain_ == kPlain)
-            return display_;
+            return display;
     }
-    if (display_ == rsErrorMsg())
-        return display_;
-    Regroup(shown_, display_, width);
+    if (display == rsErrorMsg())
+        return display;
+    Regroup(shown_, display, width);
     if (shown_.empty()) {
         std::string zero;
         FormatValue(zero, 0, baseDisplay_, bitSize_, spacing_, maxDisplayLength_);
@@ -635,6 +639,7 @@ void TQORProgCalcEngine::ConvertValues(std::int64_t v)
 
 void TQORProgCalcEngine::ChangeValues(TQORBaseDisplay oldBase, TQORBaseDisplay newBase)
 {
+    DetachDisplay();
     const std::string hex = EntryToHex(entry_, oldBase);
     baseDisplay_ = newBase;
     switch (newBase) {
@@ -762,6 +767,7 @@ void TQORProgCalcEngine::InputDigit(char ch)
     Numeric(ch);
     // A zero entry keeps just its sign and one zero; the display is left as typed.
     if (GetDisplayValue() == 0) {
+        DetachDisplay(); // the display stays as typed
         entry_ = (!entry_.empty() && entry_.front() == '-') ? "-0" : "0";
         KnowEntryBits(0, entry_.front() == '-');
     }
@@ -779,6 +785,7 @@ void TQORProgCalcEngine::InputBackspace()
 void TQORProgCalcEngine::InputString(const std::string& s)
 {
     Guarded([&] {
+        DetachDisplay();
         entry_ = s;
         EntryChanged();
         UpdateValues();
@@ -794,7 +801,7 @@ void TQORProgCalcEngine::InputValue(std::int64_t v)
     ClearEntry();
     PushOperandStack(v);
     lastKey_ = ' ';
-    AddToHistory(display_);
+    AddToHistory(Shown());
 }
 
 void TQORProgCalcEngine::ClearDisplay()
@@ -950,7 +957,7 @@ void TQORProgCalcEngine::DoResult()
             StackManipulation();
         operands_.KeepTopOnly();
         if (operands_.Empty()) {
-            if (display_.find(rsErrorMsg()) == std::string::npos)
+            if (Shown().find(rsErrorMsg()) == std::string::npos)
                 SetDisplayValue0();
         } else {
             ConvertValues(operands_.Bottom());
@@ -962,7 +969,7 @@ void TQORProgCalcEngine::DoEquals()
 {
     DoResult();
     AddToHistory(std::string("="));
-    AddToHistory(display_);
+    AddToHistory(Shown());
     lastKey_ = '=';
 }
 
@@ -1101,11 +1108,13 @@ void TQORProgCalcEngine::SetBaseDisplay(TQORBaseDisplay value)
     const bool pending = OperatorPending();
     if (!pending)
         DoResult();
+    DetachDisplay();
     entry_ = display_ == rsErrorMsg() ? std::string() : display_;
     EntryChanged();
     if (pending) {
         ClearEntry();
         display_.clear();
+        displayIsEntry_ = false;
         displayPlain_ = kPlainUnknown;
     } else {
         ChangeValues(baseDisplay_, value);
@@ -1129,6 +1138,7 @@ void TQORProgCalcEngine::SetBaseDisplay2(TQORBaseDisplay value)
     if (value == baseDisplay_)
         return;
     DoResult();
+    DetachDisplay();
     entry_ = display_ == rsErrorMsg() ? std::string() : display_;
     EntryChanged();
     ChangeValues(baseDisplay_, value);
@@ -1153,6 +1163,7 @@ void TQORProgCalcEngine::ExtendSignBit()
     SetTexts(bits, bitSize_);
     value_ = static_cast<std::int64_t>(bits);
     if (operands_.Empty()) {
+        DetachDisplay();
         entry_ = baseDisplay_ == bdDecimal ? Int2EStr(value_) : CurrentText();
         EntryChanged();
     } else {

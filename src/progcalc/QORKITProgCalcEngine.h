@@ -310,12 +310,24 @@ private:
     void EntryChanged() noexcept; // after any edit of the entry but a digit's
     // The entry's bits, sign and blank-free state, for an entry just set to digits.
     void KnowEntryBits(std::uint64_t bits, bool negative) noexcept;
-    void ClearEntry() noexcept
+    void ClearEntry()
     {
+        DetachDisplay();
         entry_.clear();
         KnowEntryBits(0, false);
     }
     void ShowEntry(); // the entry as the display
+    // The display's text: the entry itself while it is being typed.
+    const std::string& Shown() const { return displayIsEntry_ ? entry_ : display_; }
+    // Gives the display its own copy of the entry before the entry changes otherwise than
+    // by typing.
+    void DetachDisplay()
+    {
+        if (displayIsEntry_) {
+            display_ = entry_;
+            displayIsEntry_ = false;
+        }
+    }
     void AppendEntryBits(std::uint64_t digit);
 
     // Operand slots, loaded with the word-size parts of the two top operands before each
@@ -358,6 +370,7 @@ private:
     // Whether the display holds no blank, when known (most displays are known to be digits).
     enum TPlain : std::int8_t { kPlainUnknown = -1, kNotPlain = 0, kPlain = 1 };
     mutable TPlain displayPlain_ = kPlainUnknown;
+    bool displayIsEntry_ = false; // display_ is stale: the display is entry_
     // Texts handed out by reference: the grouped display, the three value texts of the
     // getters (hex, octal, binary), the memory, and the last history line regrouped.
     mutable std::string shown_;
