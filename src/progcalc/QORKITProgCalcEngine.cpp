@@ -536,7 +536,7 @@ void TQORProgCalcEngine::EntryChanged() noexcept
     entryPlain_ = std::memchr(entry_.data(), ' ', entry_.size()) == nullptr;
 }
 
-const std::string& TQORProgCalcEngine::GetDisplayStr() const
+const std::string& TQORProgCalcEngine::DisplayStrOtherwise() const
 {
     // Without spacing a display free of blanks is its own text, the error message included.
     const int width = GroupWidth();
@@ -564,10 +564,6 @@ const std::string& TQORProgCalcEngine::GetDisplayStr() const
 // anything else; the text path then decides (and raises the conversion error).
 bool TQORProgCalcEngine::EntryValue(std::uint64_t& bits)
 {
-    if (entryBitsKnown_ && entryBase_ == baseDisplay_) {
-        bits = entryBits_;
-        return true;
-    }
     std::uint64_t v = 0;
     entryBitsKnown_ = false;
     entryBase_ = baseDisplay_;
@@ -609,7 +605,9 @@ bool TQORProgCalcEngine::EntryValue(std::uint64_t& bits)
 void TQORProgCalcEngine::UpdateValues()
 {
     std::uint64_t bits = 0;
-    if (!EntryValue(bits)) {
+    if (entryBitsKnown_ && entryBase_ == baseDisplay_)
+        bits = entryBits_; // digits typed since the entry was last read
+    else if (!EntryValue(bits)) {
         const int hexChars = kDigitCounts[bitSize_ & 3U].Hex;
         const std::string hex = RightStr(EntryToHex(entry_, baseDisplay_), hexChars);
         const std::string cut = RightStr(PadChLeftStr(hex, '0', 16), hexChars);

@@ -154,7 +154,15 @@ public:
     // owner refreshes it: the zero display is formed before base and size are set.
     TQORProgCalcEngine();
 
-    const std::string& GetDisplayStr() const override;
+    const std::string& GetDisplayStr() const override
+    {
+        // The common case first: no grouping (no spacing, or decimal) and a display known to
+        // hold no blank is its own text.
+        const bool ungrouped = (spacing_ & 3U) == psNoSpacing || (baseDisplay_ & 3U) == bdDecimal;
+        if (ungrouped && displayPlain_ == kPlain && !Shown().empty())
+            return Shown();
+        return DisplayStrOtherwise();
+    }
     std::int64_t GetDisplayValue() override;
     const std::string& GetDisplayValueHex() override;
     const std::string& GetDisplayValueOct() override;
@@ -317,6 +325,7 @@ private:
         KnowEntryBits(0, false);
     }
     void ShowEntry(); // the entry as the display
+    const std::string& DisplayStrOtherwise() const; // GetDisplayStr past its common case
     // The display's text: the entry itself while it is being typed.
     const std::string& Shown() const { return displayIsEntry_ ? entry_ : display_; }
     // Gives the display its own copy of the entry before the entry changes otherwise than
