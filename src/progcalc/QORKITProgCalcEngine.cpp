@@ -314,10 +314,12 @@ void GroupInPlace(std::string& s, int width)
 // `text` without its blanks, grouped anew by `width`, into `out` (which is not `text`).
 void Regroup(std::string& out, std::string_view text, int width)
 {
-    out.clear();
+    out.resize(text.size());
+    std::size_t n = 0;
     for (const char c : text)
         if (c != ' ')
-            out += c;
+            out[n++] = c;
+    out.resize(n);
     GroupInPlace(out, width);
 }
 
