@@ -640,6 +640,42 @@ void TQORProgCalcEngine::ConvertValues(std::int64_t v)
 void TQORProgCalcEngine::ChangeValues(TQORBaseDisplay oldBase, TQORBaseDisplay newBase)
 {
     DetachDisplay();
+    std::uint64_t bits = 0;
+    if (oldBase == baseDisplay_ && EntryValue(bits)) {
+        // The entry reads as a number: its text in the new base is written straight from its
+        // bits, with as many digits as the conversion through hexadecimal text gives: a digit
+        // per hexadecimal digit, 4 bits per binary or 3 per octal digit rounded up, a decimal
+        // value's significant digits; at most the 16 of the pattern.
+        int hexDigits = 1;
+        if (oldBase == bdDecimal) {
+            while (hexDigits < 16 && (bits >> (4 * hexDigits)) != 0)
+                ++hexDigits;
+        } else {
+            const auto typed = static_cast<int>(
+                entry_.size()
+                - static_cast<std::size_t>(std::count(entry_.begin(), entry_.end(), ' ')));
+            const int typedBits = typed * (oldBase == bdBinary ? 1 : oldBase == bdOctal ? 3 : 4);
+            hexDigits = std::min((typedBits + 3) / 4, 16);
+        }
+        baseDisplay_ = newBase;
+        switch (newBase) {
+        case bdBinary:
+            WritePattern(entry_, bits, 1, 4 * hexDigits);
+            break;
+        case bdOctal:
+            WritePattern(entry_, bits, 3, (4 * hexDigits + 2) / 3);
+            break;
+        case bdDecimal:
+            FormatValue(entry_, static_cast<std::int64_t>(bits), newBase, bitSize_, spacing_,
+                        maxDisplayLength_);
+            break;
+        default:
+            WritePattern(entry_, bits, 4, hexDigits);
+            break;
+        }
+        EntryChanged();
+        return;
+    }
     const std::string hex = EntryToHex(entry_, oldBase);
     baseDisplay_ = newBase;
     switch (newBase) {
