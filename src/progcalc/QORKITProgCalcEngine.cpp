@@ -304,10 +304,12 @@ void GroupInPlace(std::string& s, int width)
     std::size_t src = n;
     std::size_t dst = n + (n - 1) / w;
     s.resize(dst);
-    for (std::size_t k = 1; src > 0; ++k) {
+    for (std::size_t left = w; src > 0;) { // left: characters until the next blank
         s[--dst] = s[--src];
-        if (k % w == 0 && src > 0)
+        if (--left == 0 && src > 0) {
             s[--dst] = ' ';
+            left = w;
+        }
     }
 }
 
