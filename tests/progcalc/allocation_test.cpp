@@ -6,10 +6,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdlib>
+#include <iterator>
 #include <new>
 #include <string_view>
+#include <utility>
 
 namespace {
 
@@ -41,91 +44,49 @@ namespace {
 // 16 bits and "S" back to 64, "H" reads the value texts, memory and last history line.
 void PressRoutine(TQORProgCalcEngine& e, std::string_view keys)
 {
+    using Engine = TQORProgCalcEngine;
+    static constexpr std::pair<char, void (Engine::*)()> kKeys[] = {
+        {'+', &Engine::DoAdd},
+        {'-', &Engine::DoSubtract},
+        {'*', &Engine::DoMultiply},
+        {'/', &Engine::DoDivide},
+        {'%', &Engine::DoMod},
+        {'&', &Engine::DoAnd},
+        {'|', &Engine::DoOr},
+        {'^', &Engine::DoXor},
+        {'(', &Engine::InputLeftBracket},
+        {')', &Engine::InputRightBracket},
+        {'=', &Engine::DoEquals},
+        {'n', &Engine::DoNeg},
+        {'t', &Engine::DoNot},
+        {'M', &Engine::MemoryAdd},
+        {'R', &Engine::MemoryRecall},
+        {'m', &Engine::MemorySubtract},
+        {'c', &Engine::MemoryClear},
+        {'b', &Engine::InputBackspace},
+        {'C', &Engine::ClearDisplay},
+        {'A', &Engine::AllClear},
+    };
     for (const char k : keys) {
-        switch (k) {
-        case '+':
-            e.DoAdd();
-            break;
-        case '-':
-            e.DoSubtract();
-            break;
-        case '*':
-            e.DoMultiply();
-            break;
-        case '/':
-            e.DoDivide();
-            break;
-        case '%':
-            e.DoMod();
-            break;
-        case '&':
-            e.DoAnd();
-            break;
-        case '|':
-            e.DoOr();
-            break;
-        case '^':
-            e.DoXor();
-            break;
-        case '(':
-            e.InputLeftBracket();
-            break;
-        case ')':
-            e.InputRightBracket();
-            break;
-        case '=':
-            e.DoEquals();
-            break;
-        case 'n':
-            e.DoNeg();
-            break;
-        case 't':
-            e.DoNot();
-            break;
-        case '<':
+        const auto* key = std::find_if(std::begin(kKeys), std::end(kKeys),
+                                       [k](const auto& entry) { return entry.first == k; });
+        if (key != std::end(kKeys)) {
+            (e.*(key->second))();
+        } else if (k == '<') {
             e.DoShl(3);
-            break;
-        case 'r':
+        } else if (k == 'r') {
             e.DoRol(5);
-            break;
-        case 'M':
-            e.MemoryAdd();
-            break;
-        case 'R':
-            e.MemoryRecall();
-            break;
-        case 'm':
-            e.MemorySubtract();
-            break;
-        case 'c':
-            e.MemoryClear();
-            break;
-        case 'b':
-            e.InputBackspace();
-            break;
-        case 'C':
-            e.ClearDisplay();
-            break;
-        case 'A':
-            e.AllClear();
-            break;
-        case 's':
-            e.SetBitSize(bs16Bits);
-            break;
-        case 'S':
-            e.SetBitSize(bs64Bits);
-            break;
-        case 'H':
+        } else if (k == 's' || k == 'S') {
+            e.SetBitSize(k == 's' ? bs16Bits : bs64Bits);
+        } else if (k == 'H') {
             (void)e.GetDisplayValue();
             (void)e.GetDisplayValueHex().size();
             (void)e.GetDisplayValueOct().size();
             (void)e.GetDisplayValueBin().size();
             (void)e.GetMemoryContents().size();
             (void)e.GetLastHistoryEntry().size();
-            break;
-        default:
+        } else {
             e.InputDigit(k);
-            break;
         }
         (void)e.GetDisplayStr().size();
     }
