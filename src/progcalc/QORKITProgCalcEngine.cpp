@@ -436,7 +436,7 @@ const std::string& TQORProgCalcEngine::GetMemoryContents() const
     return memoryText_;
 }
 
-void TQORProgCalcEngine::SetTexts(std::uint64_t bits, TQORBitSize size)
+inline void TQORProgCalcEngine::SetTexts(std::uint64_t bits, TQORBitSize size)
 {
     if (textsSet_ && bits == textBits_ && size == textSize_ && !texts_.RejectedHex)
         return;
@@ -606,12 +606,25 @@ bool TQORProgCalcEngine::EntryValue(std::uint64_t& bits)
     return true;
 }
 
-void TQORProgCalcEngine::UpdateValues()
+inline void TQORProgCalcEngine::UpdateValues()
 {
     std::uint64_t bits = 0;
     if (entryBitsKnown_ && entryBase_ == baseDisplay_)
         bits = entryBits_; // digits typed since the entry was last read
-    else if (!EntryValue(bits)) {
+    else
+        bits = EntryBitsFromText();
+    bits &= SizeMask(bitSize_);
+    SetTexts(bits, bitSize_);
+    // Below 64 bits the pattern is a non-negative value; at 64 bits it is two's complement.
+    value_ = static_cast<std::int64_t>(bits);
+}
+
+// The entry's bits when they are not kept: read from its digits, or else converted through
+// hexadecimal text, which raises the conversion error for an entry that is no number.
+std::uint64_t TQORProgCalcEngine::EntryBitsFromText()
+{
+    std::uint64_t bits = 0;
+    if (!EntryValue(bits)) {
         const int hexChars = kDigitCounts[bitSize_ & 3U].Hex;
         const std::string hex = RightStr(EntryToHex(entry_, baseDisplay_), hexChars);
         const std::string cut = RightStr(PadChLeftStr(hex, '0', 16), hexChars);
@@ -626,10 +639,7 @@ void TQORProgCalcEngine::UpdateValues()
             throw;
         }
     }
-    bits &= SizeMask(bitSize_);
-    SetTexts(bits, bitSize_);
-    // Below 64 bits the pattern is a non-negative value; at 64 bits it is two's complement.
-    value_ = static_cast<std::int64_t>(bits);
+    return bits;
 }
 
 void TQORProgCalcEngine::ConvertValues(std::int64_t v)

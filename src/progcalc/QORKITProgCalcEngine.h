@@ -375,6 +375,7 @@ private:
     void SetTexts(std::uint64_t bits, TQORBitSize size);
     const std::string& ValueText(TTextBase which) const;
     bool EntryValue(std::uint64_t& bits); // the entry's bits without any text
+    std::uint64_t EntryBitsFromText();
     std::string display_;
     // Whether the display holds no blank, when known (most displays are known to be digits).
     enum TPlain : std::int8_t { kPlainUnknown = -1, kNotPlain = 0, kPlain = 1 };
