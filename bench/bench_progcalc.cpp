@@ -223,4 +223,119 @@ BENCHMARK_CAPTURE(BM_PlainUint64, Decimal64, kDecimal);
 BENCHMARK_CAPTURE(BM_Engine, Binary32, kBinary32);
 BENCHMARK_CAPTURE(BM_PlainUint64, Binary32, kBinary32);
 
+// Key paths beyond the three sequences, each a short routine pressed over and over with the
+// display read after every key: the time per key shows a path that has fallen behind.
+struct KeyRoutine {
+    const char* name;
+    TQORBaseDisplay base;
+    TQORBitSize size;
+    std::int64_t keys; // per call of run
+    void (*run)(TQORProgCalcEngine& e);
+};
+
+template<class... Members> void Keys(TQORProgCalcEngine& e, Members... keys)
+{
+    (((e.*keys)(), benchmark::DoNotOptimize(e.GetDisplayStr().data())), ...);
+}
+
+constexpr KeyRoutine kRoutines[] = {
+    {"DigitsOctal16", bdOctal, bs16Bits, 7,
+     [](TQORProgCalcEngine& e) {
+         for (char c : std::string_view("1234567")) {
+             e.InputDigit(c);
+             benchmark::DoNotOptimize(e.GetDisplayStr().data());
+         }
+         e.ClearDisplay();
+     }},
+    {"DigitsHex64", bdHexadecimal, bs64Bits, 17,
+     [](TQORProgCalcEngine& e) {
+         for (char c : std::string_view("FEDCBA9876543210")) {
+             e.InputDigit(c);
+             benchmark::DoNotOptimize(e.GetDisplayStr().data());
+         }
+         e.ClearDisplay();
+     }},
+    {"NegNotShiftRotate", bdHexadecimal, bs32Bits, 6,
+     [](TQORProgCalcEngine& e) {
+         e.InputDigit('5');
+         Keys(e, &TQORProgCalcEngine::DoNeg, &TQORProgCalcEngine::DoNot);
+         e.DoShl(3);
+         e.DoRol(5);
+         e.DoRor(2);
+         benchmark::DoNotOptimize(e.GetDisplayStr().data());
+     }},
+    {"MemoryKeys", bdDecimal, bs64Bits, 6,
+     [](TQORProgCalcEngine& e) {
+         e.InputDigit('7');
+         Keys(e, &TQORProgCalcEngine::MemoryAdd, &TQORProgCalcEngine::MemoryRecall,
+              &TQORProgCalcEngine::MemorySubtract, &TQORProgCalcEngine::MemoryClear,
+              &TQORProgCalcEngine::AllClear);
+         benchmark::DoNotOptimize(e.GetMemoryContents().data());
+     }},
+    {"BracketsAndMod", bdBinary, bs16Bits, 9,
+     [](TQORProgCalcEngine& e) {
+         e.InputLeftBracket();
+         e.InputDigit('1');
+         e.InputDigit('1');
+         Keys(e, &TQORProgCalcEngine::DoXor);
+         e.InputDigit('1');
+         Keys(e, &TQORProgCalcEngine::InputRightBracket, &TQORProgCalcEngine::DoMod);
+         e.InputDigit('1');
+         Keys(e, &TQORProgCalcEngine::DoEquals);
+     }},
+    {"BackspaceClear", bdHexadecimal, bs64Bits, 5,
+     [](TQORProgCalcEngine& e) {
+         e.InputDigit('A');
+         e.InputDigit('B');
+         Keys(e, &TQORProgCalcEngine::InputBackspace, &TQORProgCalcEngine::InputBackspace,
+              &TQORProgCalcEngine::ClearDisplay);
+     }},
+    {"BaseAndSizeSwitch", bdHexadecimal, bs64Bits, 6,
+     [](TQORProgCalcEngine& e) {
+         e.InputDigit('7');
+         e.SetBaseDisplay(bdBinary);
+         e.SetBitSize(bs16Bits);
+         e.SetBaseDisplay(bdOctal);
+         e.SetBaseDisplay(bdHexadecimal);
+         e.SetBitSize(bs64Bits);
+         benchmark::DoNotOptimize(e.GetDisplayStr().data());
+     }},
+    // The host's reads after a key: every value text, the value, memory and the last line.
+    {"ReadsAfterKey", bdBinary, bs32Bits, 2,
+     [](TQORProgCalcEngine& e) {
+         e.InputDigit('1');
+         e.DoAdd();
+         benchmark::DoNotOptimize(e.GetDisplayStr().data());
+         benchmark::DoNotOptimize(e.GetDisplayValue());
+         benchmark::DoNotOptimize(e.GetDisplayValueHex().data());
+         benchmark::DoNotOptimize(e.GetDisplayValueOct().data());
+         benchmark::DoNotOptimize(e.GetDisplayValueBin().data());
+         benchmark::DoNotOptimize(e.GetMemoryContents().data());
+         benchmark::DoNotOptimize(e.GetLastHistoryEntry().data());
+         if (e.GetHistoryLength() > 64)
+             e.ClearHistory();
+     }},
+};
+
+void BM_KeyRoutine(benchmark::State& state, const KeyRoutine& routine)
+{
+    TQORProgCalcEngine e;
+    e.SetBaseDisplay2(routine.base);
+    e.SetBitSize2(routine.size);
+    e.SetSpacing(psWord);
+    for (auto _ : state) {
+        routine.run(e);
+        if (e.GetHistoryLength() > 256)
+            e.ClearHistory();
+    }
+    state.SetItemsProcessed(state.iterations() * routine.keys);
+}
+
+[[maybe_unused]] const bool kRoutinesRegistered = [] {
+    for (const auto& routine : kRoutines)
+        benchmark::RegisterBenchmark((std::string("BM_KeyRoutine/") + routine.name).c_str(),
+                                     BM_KeyRoutine, routine);
+    return true;
+}();
+
 } // namespace

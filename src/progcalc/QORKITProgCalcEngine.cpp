@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <charconv>
+#include <cstring>
 #include <exception>
 #include <limits>
 #include <string_view>
@@ -42,7 +44,20 @@ constexpr std::string_view kOperatorKeys = "!#%&(*+-/?@|~";
 constexpr std::string_view kFunctionLetters = "ACDGLNQRSTUWacdfgilnqrstuw";
 constexpr std::string_view kBinaryOperators = "+-*/%&|^#?!";
 
-bool Contains(std::string_view set, char ch) { return set.find(ch) != std::string_view::npos; }
+// A set of characters as a table, for the tests on every key.
+using TCharSet = std::array<bool, 256>;
+constexpr TCharSet MakeCharSet(std::string_view chars)
+{
+    TCharSet set {};
+    for (const char c : chars)
+        set[static_cast<unsigned char>(c)] = true;
+    return set;
+}
+constexpr TCharSet kOperatorKeySet = MakeCharSet(kOperatorKeys);
+constexpr TCharSet kFunctionLetterSet = MakeCharSet(kFunctionLetters);
+constexpr TCharSet kBinaryOperatorSet = MakeCharSet(kBinaryOperators);
+
+bool Contains(const TCharSet& set, char ch) { return set[static_cast<unsigned char>(ch)]; }
 
 // The history word of a two-operand operator.
 std::string OperatorHistoryText(char op)
@@ -239,15 +254,106 @@ std::uint64_t SizeMask(TQORBitSize size)
     return bits == 64 ? ~0ULL : (1ULL << bits) - 1;
 }
 
+constexpr char kDigitChars[] = "0123456789ABCDEF";
+
+// The eight binary digits and the two hexadecimal digits of every byte.
+constexpr auto kByteBinary = [] {
+    std::array<std::array<char, 8>, 256> table {};
+    for (std::size_t b = 0; b < 256; ++b)
+        for (std::size_t i = 0; i < 8; ++i)
+            table[b][i] = (b >> (7 - i) & 1U) != 0 ? '1' : '0';
+    return table;
+}();
+constexpr auto kByteHex = [] {
+    std::array<std::array<char, 2>, 256> table {};
+    for (std::size_t b = 0; b < 256; ++b)
+        table[b] = {kDigitChars[b >> 4], kDigitChars[b & 0xFU]};
+    return table;
+}();
+
 // The lowest `count` digits of v in base 2^radixBits, zero-filled: the bit pattern as text.
-// Written into `out`, whose storage is reused.
+// Written into `out`, whose storage is reused; binary and hexadecimal go a byte at a time.
 void WritePattern(std::string& out, std::uint64_t v, int radixBits, int count)
 {
-    static constexpr char kDigits[] = "0123456789ABCDEF";
-    out.assign(static_cast<std::size_t>(count), '0');
+    out.resize(static_cast<std::size_t>(count));
+    char* p = out.data() + count;
+    if (radixBits == 1) {
+        for (; count >= 8; count -= 8, v >>= 8) {
+            p -= 8;
+            std::memcpy(p, kByteBinary[v & 0xFFU].data(), 8);
+        }
+    } else if (radixBits == 4) {
+        for (; count >= 2; count -= 2, v >>= 8) {
+            p -= 2;
+            std::memcpy(p, kByteHex[v & 0xFFU].data(), 2);
+        }
+    }
     const std::uint64_t digitMask = (1ULL << radixBits) - 1;
-    for (auto i = out.size(); i > 0 && v != 0; v >>= radixBits)
-        out[--i] = kDigits[v & digitMask];
+    for (; count > 0; --count, v >>= radixBits)
+        *--p = kDigitChars[v & digitMask];
+}
+
+// Blanks between groups of `width` characters counted from the right, in place: the same
+// text as GroupSpacing(s, width, ' ') without a second string.
+void GroupInPlace(std::string& s, int width)
+{
+    const std::size_t n = s.size();
+    if (width <= 0 || n <= 1)
+        return;
+    const auto w = static_cast<std::size_t>(width);
+    std::size_t src = n;
+    std::size_t dst = n + (n - 1) / w;
+    s.resize(dst);
+    for (std::size_t left = w; src > 0;) { // left: characters until the next blank
+        s[--dst] = s[--src];
+        if (--left == 0 && src > 0) {
+            s[--dst] = ' ';
+            left = w;
+        }
+    }
+}
+
+// `text` without its blanks, grouped anew by `width`, into `out` (which is not `text`).
+void Regroup(std::string& out, std::string_view text, int width)
+{
+    out.resize(text.size());
+    std::size_t n = 0;
+    for (const char c : text)
+        if (c != ' ')
+            out[n++] = c;
+    out.resize(n);
+    GroupInPlace(out, width);
+}
+
+// The value as the display shows it in a base, size and spacing: the pattern of the size's
+// digits, or the signed decimal cut to maxLength.
+void FormatValue(std::string& out, std::int64_t v, TQORBaseDisplay base, TQORBitSize size,
+                 TQORProgSpacing spacing, std::uint8_t maxLength)
+{
+    const TDigitCounts& counts = kDigitCounts[size & 3U];
+    const auto bits = static_cast<std::uint64_t>(v);
+    switch (base) {
+    case bdBinary:
+        WritePattern(out, bits, 1, counts.Bin);
+        break;
+    // Octal digits come from the full 64-bit pattern, so a negative value at a small size
+    // shows the bits above the size that its top digit covers (-1 at 8 bits is "777").
+    // Intended.
+    case bdOctal:
+        WritePattern(out, bits, 3, counts.Oct);
+        break;
+    case bdDecimal: {
+        char buffer[24];
+        const auto end = std::to_chars(buffer, buffer + sizeof buffer, v).ptr;
+        out.assign(buffer,
+                   std::min<std::size_t>(static_cast<std::size_t>(end - buffer), maxLength));
+        break;
+    }
+    default:
+        WritePattern(out, bits, 4, counts.Hex);
+        break;
+    }
+    GroupInPlace(out, kGroupWidths[base & 3U][spacing & 3U]);
 }
 
 // The entry text of a base as hexadecimal digits, at most the 16 of the int64 pattern.
@@ -282,7 +388,7 @@ std::string EntryToHex(const std::string& text, TQORBaseDisplay base)
 
 TQORProgCalcEngine::TQORProgCalcEngine()
 {
-    entry_.clear();
+    ClearEntry();
     value_ = 0;
     // Base and size still hold their zero ordinals here, so the first display is eight binary
     // zeros; the owner refreshes it before showing it.
@@ -312,45 +418,25 @@ void TQORProgCalcEngine::GetNoChars(int& hexChars, int& octChars, int& binChars)
     binChars = counts.Bin;
 }
 
-std::string TQORProgCalcEngine::GroupedFor(TQORBaseDisplay base, std::string s) const
+int TQORProgCalcEngine::GroupWidth() const
 {
-    const int width = kGroupWidths[base & 3U][spacing_ & 3U];
-    if (width == 0)
-        return s;
-    return GroupSpacing(s, width, ' ');
-}
-
-std::string TQORProgCalcEngine::Spaced(std::string s) const
-{
-    return GroupedFor(baseDisplay_, std::move(s));
+    return kGroupWidths[baseDisplay_ & 3U][spacing_ & 3U];
 }
 
 std::string TQORProgCalcEngine::DisplayValue(std::int64_t v) const
 {
-    const TDigitCounts& counts = kDigitCounts[bitSize_ & 3U];
-    const auto bits = static_cast<std::uint64_t>(v);
     std::string s;
-    switch (baseDisplay_) {
-    case bdBinary:
-        WritePattern(s, bits, 1, counts.Bin);
-        break;
-    // Octal digits come from the full 64-bit pattern, so a negative value at a small size
-    // shows the bits above the size that its top digit covers (-1 at 8 bits is "777").
-    // Intended.
-    case bdOctal:
-        WritePattern(s, bits, 3, counts.Oct);
-        break;
-    case bdDecimal:
-        s = LeftStr(Int2EStr(v), maxDisplayLength_);
-        break;
-    default:
-        WritePattern(s, bits, 4, counts.Hex);
-        break;
-    }
-    return Spaced(std::move(s));
+    FormatValue(s, v, baseDisplay_, bitSize_, spacing_, maxDisplayLength_);
+    return s;
 }
 
-void TQORProgCalcEngine::SetTexts(std::uint64_t bits, TQORBitSize size)
+const std::string& TQORProgCalcEngine::GetMemoryContents() const
+{
+    FormatValue(memoryText_, memory_, baseDisplay_, bitSize_, spacing_, maxDisplayLength_);
+    return memoryText_;
+}
+
+inline void TQORProgCalcEngine::SetTexts(std::uint64_t bits, TQORBitSize size)
 {
     if (textsSet_ && bits == textBits_ && size == textSize_ && !texts_.RejectedHex)
         return;
@@ -403,42 +489,89 @@ std::string TQORProgCalcEngine::CurrentText() const
 
 void TQORProgCalcEngine::ShowCurrentText()
 {
-    if (const std::string* text = BaseText())
+    if (const std::string* text = BaseText()) {
         display_ = *text;
-    else
-        display_ = DisplayValue(value_);
+        displayIsEntry_ = false;
+        // Value texts are digits only; rejected hexadecimal digits may be anything.
+        displayPlain_ = texts_.RejectedHex ? kPlainUnknown : kPlain;
+    } else {
+        FormatValue(display_, value_, baseDisplay_, bitSize_, spacing_, maxDisplayLength_);
+        displayIsEntry_ = false;
+        displayPlain_ = GroupWidth() == 0 ? kPlain : kPlainUnknown;
+    }
     Notify(onDisplayChange_);
 }
 
-void TQORProgCalcEngine::SetDisplayValue0() { SetDisplayValue(DisplayValue(0)); }
+void TQORProgCalcEngine::SetDisplayValue0()
+{
+    FormatValue(display_, 0, baseDisplay_, bitSize_, spacing_, maxDisplayLength_);
+    displayIsEntry_ = false;
+    displayPlain_ = GroupWidth() == 0 ? kPlain : kPlainUnknown;
+    Notify(onDisplayChange_);
+}
 
 void TQORProgCalcEngine::SetDisplayValue(const std::string& s)
 {
     display_ = s;
+    displayIsEntry_ = false;
+    displayPlain_ = kPlainUnknown;
     Notify(onDisplayChange_);
 }
 
-std::string TQORProgCalcEngine::GetDisplayStr() const
+void TQORProgCalcEngine::ShowEntry()
+{
+    displayIsEntry_ = true; // no copy: the entry is shown until it next changes
+    displayPlain_ = entryPlain_ ? kPlain : kNotPlain;
+    Notify(onDisplayChange_);
+}
+
+void TQORProgCalcEngine::KnowEntryBits(std::uint64_t bits, bool negative) noexcept
+{
+    entryBits_ = bits;
+    entryNegative_ = negative;
+    entryBase_ = baseDisplay_;
+    entryBitsKnown_ = true;
+    entryPlain_ = true;
+}
+
+void TQORProgCalcEngine::EntryChanged() noexcept
+{
+    entryBitsKnown_ = false;
+    entryPlain_ = std::memchr(entry_.data(), ' ', entry_.size()) == nullptr;
+}
+
+const std::string& TQORProgCalcEngine::DisplayStrOtherwise() const
 {
     // Without spacing a display free of blanks is its own text, the error message included.
-    if (kGroupWidths[baseDisplay_ & 3U][spacing_ & 3U] == 0 && !display_.empty()
-        && display_.find(' ') == std::string::npos)
-        return display_;
-    const std::string error = rsErrorMsg();
-    if (display_ == error)
-        return display_;
-    std::string s = RemoveGroupSpacing(display_, ' ');
-    if (s.empty())
-        s = RemoveGroupSpacing(DisplayValue(0), ' ');
-    return Spaced(std::move(s));
+    const int width = GroupWidth();
+    const std::string& display = Shown();
+    if (width == 0 && !display.empty()) {
+        if (displayPlain_ == kPlainUnknown)
+            displayPlain_
+                = std::memchr(display.data(), ' ', display.size()) == nullptr ? kPlain : kNotPlain;
+        if (displayPlain_ == kPlain)
+            return display;
+    }
+    if (display == rsErrorMsg())
+        return display;
+    Regroup(shown_, display, width);
+    if (shown_.empty()) {
+        std::string zero;
+        FormatValue(zero, 0, baseDisplay_, bitSize_, spacing_, maxDisplayLength_);
+        Regroup(shown_, zero, width);
+    }
+    return shown_;
 }
 
 // The entry's bit pattern read straight from its digits: the lowest 64 bits of a binary,
 // octal or hexadecimal entry, a decimal entry's value modulo 2^64. False when the entry holds
 // anything else; the text path then decides (and raises the conversion error).
-bool TQORProgCalcEngine::EntryValue(std::uint64_t& bits) const
+bool TQORProgCalcEngine::EntryValue(std::uint64_t& bits)
 {
     std::uint64_t v = 0;
+    entryBitsKnown_ = false;
+    entryBase_ = baseDisplay_;
+    entryNegative_ = false;
     if (baseDisplay_ == bdDecimal) {
         std::size_t i = 0;
         bool negative = false;
@@ -453,6 +586,9 @@ bool TQORProgCalcEngine::EntryValue(std::uint64_t& bits) const
             v = v * 10U + static_cast<std::uint64_t>(c - '0');
         }
         bits = negative ? 0U - v : v;
+        entryBits_ = bits;
+        entryNegative_ = negative;
+        entryBitsKnown_ = true;
         return true;
     }
     const int radixBits = baseDisplay_ == bdBinary ? 1 : baseDisplay_ == bdOctal ? 3 : 4;
@@ -465,10 +601,27 @@ bool TQORProgCalcEngine::EntryValue(std::uint64_t& bits) const
         v = (v << radixBits) | digit;
     }
     bits = v;
+    entryBits_ = bits;
+    entryBitsKnown_ = true;
     return true;
 }
 
-void TQORProgCalcEngine::UpdateValues()
+inline void TQORProgCalcEngine::UpdateValues()
+{
+    std::uint64_t bits = 0;
+    if (entryBitsKnown_ && entryBase_ == baseDisplay_)
+        bits = entryBits_; // digits typed since the entry was last read
+    else
+        bits = EntryBitsFromText();
+    bits &= SizeMask(bitSize_);
+    SetTexts(bits, bitSize_);
+    // Below 64 bits the pattern is a non-negative value; at 64 bits it is two's complement.
+    value_ = static_cast<std::int64_t>(bits);
+}
+
+// The entry's bits when they are not kept: read from its digits, or else converted through
+// hexadecimal text, which raises the conversion error for an entry that is no number.
+std::uint64_t TQORProgCalcEngine::EntryBitsFromText()
 {
     std::uint64_t bits = 0;
     if (!EntryValue(bits)) {
@@ -486,10 +639,7 @@ void TQORProgCalcEngine::UpdateValues()
             throw;
         }
     }
-    bits &= SizeMask(bitSize_);
-    SetTexts(bits, bitSize_);
-    // Below 64 bits the pattern is a non-negative value; at 64 bits it is two's complement.
-    value_ = static_cast<std::int64_t>(bits);
+    return bits;
 }
 
 void TQORProgCalcEngine::ConvertValues(std::int64_t v)
@@ -501,6 +651,43 @@ void TQORProgCalcEngine::ConvertValues(std::int64_t v)
 
 void TQORProgCalcEngine::ChangeValues(TQORBaseDisplay oldBase, TQORBaseDisplay newBase)
 {
+    DetachDisplay();
+    std::uint64_t bits = 0;
+    if (oldBase == baseDisplay_ && EntryValue(bits)) {
+        // The entry reads as a number: its text in the new base is written straight from its
+        // bits, with as many digits as the conversion through hexadecimal text gives: a digit
+        // per hexadecimal digit, 4 bits per binary or 3 per octal digit rounded up, a decimal
+        // value's significant digits; at most the 16 of the pattern.
+        int hexDigits = 1;
+        if (oldBase == bdDecimal) {
+            while (hexDigits < 16 && (bits >> (4 * hexDigits)) != 0)
+                ++hexDigits;
+        } else {
+            const auto typed = static_cast<int>(
+                entry_.size()
+                - static_cast<std::size_t>(std::count(entry_.begin(), entry_.end(), ' ')));
+            const int typedBits = typed * (oldBase == bdBinary ? 1 : oldBase == bdOctal ? 3 : 4);
+            hexDigits = std::min((typedBits + 3) / 4, 16);
+        }
+        baseDisplay_ = newBase;
+        switch (newBase) {
+        case bdBinary:
+            WritePattern(entry_, bits, 1, 4 * hexDigits);
+            break;
+        case bdOctal:
+            WritePattern(entry_, bits, 3, (4 * hexDigits + 2) / 3);
+            break;
+        case bdDecimal:
+            FormatValue(entry_, static_cast<std::int64_t>(bits), newBase, bitSize_, spacing_,
+                        maxDisplayLength_);
+            break;
+        default:
+            WritePattern(entry_, bits, 4, hexDigits);
+            break;
+        }
+        EntryChanged();
+        return;
+    }
     const std::string hex = EntryToHex(entry_, oldBase);
     baseDisplay_ = newBase;
     switch (newBase) {
@@ -517,6 +704,7 @@ void TQORProgCalcEngine::ChangeValues(TQORBaseDisplay oldBase, TQORBaseDisplay n
         entry_ = hex;
         break;
     }
+    EntryChanged();
 }
 
 std::int64_t TQORProgCalcEngine::GetDisplayValue()
@@ -530,22 +718,38 @@ std::int64_t TQORProgCalcEngine::GetDisplayValue()
 // The value's text in one base, grouped with that base's widths whatever the current base is.
 // During entry the stored texts are used, and the binary getter answers with the octal text:
 // intended, kept. Otherwise the top operand's full pattern is converted, neither padded nor cut.
-std::string TQORProgCalcEngine::DisplayValueIn(TQORBaseDisplay textBase)
+const std::string& TQORProgCalcEngine::DisplayValueIn(TQORBaseDisplay textBase)
 {
     UpdateValues();
-    std::string s;
+    const auto which = textBase == bdHexadecimal ? tbHex : textBase == bdOctal ? tbOct : tbBin;
+    std::string& s = valueTextsOut_[which];
     if (!entry_.empty()) {
         s = textBase == bdHexadecimal ? ValueText(tbHex) : ValueText(tbOct);
     } else if (!operands_.Empty()) {
-        const std::string hex = Int2EHex(operands_.Top());
-        s = textBase == bdHexadecimal ? hex : textBase == bdOctal ? Hex2Oct(hex) : Hex2Bin(hex);
+        // The hexadecimal digits of the value without leading zeros (at least one), and the
+        // same bits as ceil(4n/3) octal or 4n binary digits.
+        const auto bits = static_cast<std::uint64_t>(operands_.Top());
+        int hexDigits = 1;
+        while (hexDigits < 16 && (bits >> (4 * hexDigits)) != 0)
+            ++hexDigits;
+        static constexpr int kRadixBits[] = {4, 3, 1};
+        const int count = which == tbHex ? hexDigits
+            : which == tbOct             ? (4 * hexDigits + 2) / 3
+                                         : 4 * hexDigits;
+        WritePattern(s, bits, kRadixBits[which], count);
+    } else {
+        s.clear();
     }
-    return GroupedFor(textBase, std::move(s));
+    GroupInPlace(s, kGroupWidths[textBase & 3U][spacing_ & 3U]);
+    return s;
 }
 
-std::string TQORProgCalcEngine::GetDisplayValueHex() { return DisplayValueIn(bdHexadecimal); }
-std::string TQORProgCalcEngine::GetDisplayValueOct() { return DisplayValueIn(bdOctal); }
-std::string TQORProgCalcEngine::GetDisplayValueBin() { return DisplayValueIn(bdBinary); }
+const std::string& TQORProgCalcEngine::GetDisplayValueHex()
+{
+    return DisplayValueIn(bdHexadecimal);
+}
+const std::string& TQORProgCalcEngine::GetDisplayValueOct() { return DisplayValueIn(bdOctal); }
+const std::string& TQORProgCalcEngine::GetDisplayValueBin() { return DisplayValueIn(bdBinary); }
 
 // Runs one operation; see TQORErrorGuard.
 template<class Body> void TQORProgCalcEngine::Guarded(Body&& body)
@@ -560,60 +764,61 @@ void TQORProgCalcEngine::Numeric(char ch)
 {
     if (ch >= 'a' && ch <= 'z')
         ch = static_cast<char>(ch - 'a' + 'A');
-    bool valid = false;
-    switch (baseDisplay_) {
-    case bdBinary:
-        valid = ch == '0' || ch == '1';
-        break;
-    case bdOctal:
-        valid = ch >= '0' && ch <= '7';
-        break;
-    case bdDecimal:
-        valid = (ch >= '0' && ch <= '9') || ch == '+' || ch == '-';
-        break;
-    default:
-        valid = (ch >= '0' && ch <= '9') || (ch >= 'A' && ch <= 'F');
-        break;
-    }
-    if (!valid)
+    // Radix and longest entry by base ordinal (binary, decimal, hexadecimal, octal); any other
+    // base works as hexadecimal.
+    static constexpr unsigned kRadix[] = {2, 10, 16, 8};
+    const TDigitCounts& counts = kDigitCounts[bitSize_ & 3U];
+    const auto base = static_cast<unsigned>(baseDisplay_ <= bdOctal ? baseDisplay_ : bdHexadecimal);
+    const int limits[] = {counts.Bin, kMaxDecimalEntry, counts.Hex, counts.Oct};
+    const std::uint8_t digit = kDigitValues[static_cast<unsigned char>(ch)];
+    const bool sign = ch == '+' || ch == '-';
+    if (!(digit < kRadix[base] || (sign && baseDisplay_ == bdDecimal)))
         return;
 
-    entry_.erase(0, entry_.find_first_not_of('0'));
-    if (ch == '+' || ch == '-') {
+    // Leading zeros go; they leave the entry's value as it is.
+    if (!entry_.empty() && entry_.front() == '0')
+        entry_.erase(0, entry_.find_first_not_of('0'));
+    if (sign) {
         entry_.insert(entry_.begin(), ch);
-    } else {
-        int hexChars = 0;
-        int octChars = 0;
-        int binChars = 0;
-        GetNoChars(hexChars, octChars, binChars);
-        int limit = hexChars;
-        switch (baseDisplay_) {
-        case bdBinary:
-            limit = binChars;
-            break;
-        case bdOctal:
-            limit = octChars;
-            break;
-        case bdDecimal:
-            limit = kMaxDecimalEntry;
-            break;
-        default:
-            break;
-        }
-        if (static_cast<int>(entry_.size()) < limit)
-            entry_ += ch;
+        EntryChanged();
+    } else if (static_cast<int>(entry_.size()) < limits[base]) {
+        entry_.push_back(ch);
+        AppendEntryBits(digit);
     }
-    engine_internal::CleanSigns(entry_);
-    SetDisplayValue(entry_);
+    // Signs are only ever at the front of an entry, so without one there is nothing to clean.
+    if (!entry_.empty() && (entry_.front() == '+' || entry_.front() == '-')) {
+        const std::size_t before = entry_.size();
+        engine_internal::CleanSigns(entry_); // every rule shortens the text
+        if (entry_.size() != before)
+            EntryChanged();
+    }
+    ShowEntry();
     lastKey_ = ch;
+}
+
+// The kept bits of an entry that has just had a digit appended.
+void TQORProgCalcEngine::AppendEntryBits(std::uint64_t digit)
+{
+    if (!entryBitsKnown_ || entryBase_ != baseDisplay_)
+        return;
+    if (baseDisplay_ == bdDecimal) {
+        // -(10m + d) is 10(-m) - d: the sign stays outside the digits.
+        entryBits_ = entryNegative_ ? entryBits_ * 10U - digit : entryBits_ * 10U + digit;
+        return;
+    }
+    const int radixBits = baseDisplay_ == bdBinary ? 1 : baseDisplay_ == bdOctal ? 3 : 4;
+    entryBits_ = (entryBits_ << radixBits) | digit;
 }
 
 void TQORProgCalcEngine::InputDigit(char ch)
 {
     Numeric(ch);
     // A zero entry keeps just its sign and one zero; the display is left as typed.
-    if (GetDisplayValue() == 0)
+    if (GetDisplayValue() == 0) {
+        DetachDisplay(); // the display stays as typed
         entry_ = (!entry_.empty() && entry_.front() == '-') ? "-0" : "0";
+        KnowEntryBits(0, entry_.front() == '-');
+    }
 }
 
 void TQORProgCalcEngine::InputBackspace()
@@ -621,15 +826,18 @@ void TQORProgCalcEngine::InputBackspace()
     if (entry_.empty())
         return;
     entry_.pop_back();
-    SetDisplayValue(entry_);
+    EntryChanged();
+    ShowEntry();
 }
 
 void TQORProgCalcEngine::InputString(const std::string& s)
 {
     Guarded([&] {
+        DetachDisplay();
         entry_ = s;
+        EntryChanged();
         UpdateValues();
-        entry_.clear();
+        ClearEntry();
         PushOperandStack(value_);
         lastKey_ = ' ';
     });
@@ -638,16 +846,16 @@ void TQORProgCalcEngine::InputString(const std::string& s)
 void TQORProgCalcEngine::InputValue(std::int64_t v)
 {
     ConvertValues(v);
-    entry_.clear();
+    ClearEntry();
     PushOperandStack(v);
     lastKey_ = ' ';
-    AddToHistory(display_);
+    AddToHistory(Shown());
 }
 
 void TQORProgCalcEngine::ClearDisplay()
 {
     lastKey_ = ' ';
-    entry_.clear();
+    ClearEntry();
     value_ = 0;
     SetDisplayValue0();
 }
@@ -656,7 +864,7 @@ void TQORProgCalcEngine::AllClear()
 {
     operands_.Clear();
     operators_.Clear();
-    entry_.clear();
+    ClearEntry();
     value_ = 0;
     SetDisplayValue0();
     lastError_.clear();
@@ -725,14 +933,14 @@ bool TQORProgCalcEngine::HigherPrecedence(char newOp, char topOp) const
     if (precedence_ && (newOp == '%' || newOp == '@' || newOp == '^')
         && (topOp == '*' || topOp == '+' || topOp == '-' || topOp == '/'))
         return true;
-    return topOp == '(' || Contains(kFunctionLetters, newOp);
+    return topOp == '(' || Contains(kFunctionLetterSet, newOp);
 }
 
 void TQORProgCalcEngine::StackManipulation()
 {
     SetSizeValues();
     const char op = operators_.Top();
-    if (Contains(kBinaryOperators, op) && !operands_.Empty()) {
+    if (Contains(kBinaryOperatorSet, op) && !operands_.Empty()) {
         if (op == '/' || op == '%') {
             // The processor's division fault covers a divisor whose word-size part is zero.
             if (operands_.Top() == 0 || OperandA() == 0)
@@ -759,7 +967,7 @@ void TQORProgCalcEngine::UpdateValue()
     UpdateValues();
     PushOperandStack(value_);
     AddToHistory(value_);
-    entry_.clear();
+    ClearEntry();
 }
 
 void TQORProgCalcEngine::ShowTopOperand()
@@ -773,8 +981,8 @@ void TQORProgCalcEngine::ShowTopOperand()
 void TQORProgCalcEngine::Arithmetic(char op)
 {
     if (baseDisplay_ == bdDecimal && (op == '+' || op == '-')
-        && ((entry_.empty() && operands_.Empty()) || Contains(kOperatorKeys, lastKey_)
-            || Contains(kFunctionLetters, lastKey_))) {
+        && ((entry_.empty() && operands_.Empty()) || Contains(kOperatorKeySet, lastKey_)
+            || Contains(kFunctionLetterSet, lastKey_))) {
         Numeric(op); // a sign of the number being typed
         return;
     }
@@ -797,7 +1005,7 @@ void TQORProgCalcEngine::DoResult()
             StackManipulation();
         operands_.KeepTopOnly();
         if (operands_.Empty()) {
-            if (display_.find(rsErrorMsg()) == std::string::npos)
+            if (Shown().find(rsErrorMsg()) == std::string::npos)
                 SetDisplayValue0();
         } else {
             ConvertValues(operands_.Bottom());
@@ -809,7 +1017,7 @@ void TQORProgCalcEngine::DoEquals()
 {
     DoResult();
     AddToHistory(std::string("="));
-    AddToHistory(display_);
+    AddToHistory(Shown());
     lastKey_ = '=';
 }
 
@@ -820,7 +1028,7 @@ void TQORProgCalcEngine::InputLeftBracket()
         InputDigit('1');
         DoMultiply();
     }
-    entry_.clear();
+    ClearEntry();
     PushOperatorStack('(');
     ShowTopOperand();
     AddToHistory(std::string("("));
@@ -858,8 +1066,7 @@ void TQORProgCalcEngine::Notify(const TQORProgCalcNotifyEvent& handler)
 
 // ---- One-operand keys ----------------------------------------------------------------------
 
-void TQORProgCalcEngine::UnaryKey(const std::function<std::int64_t(std::int64_t)>& compute,
-                                  const std::string& historyLine)
+template<class Fn> void TQORProgCalcEngine::UnaryKey(Fn&& compute, const std::string& historyLine)
 {
     Guarded([&] {
         std::int64_t result = 0;
@@ -873,7 +1080,7 @@ void TQORProgCalcEngine::UnaryKey(const std::function<std::int64_t(std::int64_t)
         }
         value_ = result;
         ConvertValues(result);
-        entry_.clear();
+        ClearEntry();
         // The result goes on top of the operand it came from: a pending two-operand operator
         // takes both (5 + NEG = gives 0). Kept.
         PushOperandStack(result);
@@ -895,7 +1102,7 @@ void TQORProgCalcEngine::DoNot()
 {
     if (prefixFunctions_) {
         // Prefix NOT: applied to the operand that follows, at the next evaluation.
-        entry_.clear();
+        ClearEntry();
         PushOperatorStack('~');
         AddToHistory(rsNOTPaper());
         ShowTopOperand();
@@ -940,7 +1147,7 @@ std::int64_t TQORProgCalcEngine::ComputeAbs(std::int64_t v) noexcept
 
 // ---- Base, size and spacing ----------------------------------------------------------------
 
-bool TQORProgCalcEngine::OperatorPending() const { return Contains(kOperatorKeys, lastKey_); }
+bool TQORProgCalcEngine::OperatorPending() const { return Contains(kOperatorKeySet, lastKey_); }
 
 void TQORProgCalcEngine::SetBaseDisplay(TQORBaseDisplay value)
 {
@@ -949,10 +1156,14 @@ void TQORProgCalcEngine::SetBaseDisplay(TQORBaseDisplay value)
     const bool pending = OperatorPending();
     if (!pending)
         DoResult();
+    DetachDisplay();
     entry_ = display_ == rsErrorMsg() ? std::string() : display_;
+    EntryChanged();
     if (pending) {
-        entry_.clear();
+        ClearEntry();
         display_.clear();
+        displayIsEntry_ = false;
+        displayPlain_ = kPlainUnknown;
     } else {
         ChangeValues(baseDisplay_, value);
     }
@@ -975,7 +1186,9 @@ void TQORProgCalcEngine::SetBaseDisplay2(TQORBaseDisplay value)
     if (value == baseDisplay_)
         return;
     DoResult();
+    DetachDisplay();
     entry_ = display_ == rsErrorMsg() ? std::string() : display_;
+    EntryChanged();
     ChangeValues(baseDisplay_, value);
     baseDisplay_ = value;
     UpdateValues();
@@ -997,10 +1210,13 @@ void TQORProgCalcEngine::ExtendSignBit()
         = ((textBits_ & ~(1ULL << (oldBits - 1))) & SizeMask(bitSize_)) | topBit;
     SetTexts(bits, bitSize_);
     value_ = static_cast<std::int64_t>(bits);
-    if (operands_.Empty())
+    if (operands_.Empty()) {
+        DetachDisplay();
         entry_ = baseDisplay_ == bdDecimal ? Int2EStr(value_) : CurrentText();
-    else
+        EntryChanged();
+    } else {
         operands_.Top() = value_;
+    }
 }
 
 void TQORProgCalcEngine::SetBitSize(TQORBitSize value)
@@ -1109,7 +1325,7 @@ void TQORProgCalcEngine::MemoryClear()
 void TQORProgCalcEngine::MemoryRecall()
 {
     ConvertValues(memory_);
-    entry_.clear();
+    ClearEntry();
     PushOperandStack(memory_);
     AddToHistory(rsMemRecPaper());
     MemoryHistoryLine();
@@ -1123,13 +1339,56 @@ void TQORProgCalcEngine::SetMemory(std::int64_t v)
 
 // ---- History -------------------------------------------------------------------------------
 
+TQORProgCalcEngine::TTape::TLine& TQORProgCalcEngine::TTape::Add()
+{
+    if (count_ == lines_.size())
+        lines_.emplace_back();
+    return lines_[count_++];
+}
+
+const std::string* TQORProgCalcEngine::TTape::At(std::size_t index) const
+{
+    if (index >= count_)
+        return nullptr;
+    TLine& line = lines_[index];
+    if (line.Pending) {
+        FormatValue(line.Text, line.Value, line.Base, line.Size, line.Spacing, line.MaxLength);
+        line.Pending = false;
+    }
+    return &line.Text;
+}
+
+std::string TQORProgCalcEngine::TTape::Next()
+{
+    // 64-bit arithmetic: a host may store any position, INT32_MAX included. A position below
+    // the start reads from the first line.
+    const std::int64_t next = std::max<std::int64_t>(position_, -1) + 1;
+    if (next >= static_cast<std::int64_t>(count_))
+        return {};
+    position_ = static_cast<std::int32_t>(next);
+    return *At(static_cast<std::size_t>(next));
+}
+
 void TQORProgCalcEngine::AddToHistory(const std::string& s)
 {
-    tape_.Add(s);
+    TTape::TLine& line = tape_.Add();
+    line.Text = s;
+    line.Pending = false;
     Notify(onHistoryChange_);
 }
 
-void TQORProgCalcEngine::AddToHistory(std::int64_t v) { AddToHistory(DisplayValue(v)); }
+// The line keeps the value and today's modes; its text is written when it is first read.
+void TQORProgCalcEngine::AddToHistory(std::int64_t v)
+{
+    TTape::TLine& line = tape_.Add();
+    line.Value = v;
+    line.Base = baseDisplay_;
+    line.Size = bitSize_;
+    line.Spacing = spacing_;
+    line.MaxLength = maxDisplayLength_;
+    line.Pending = true;
+    Notify(onHistoryChange_);
+}
 
 void TQORProgCalcEngine::PaperLine() { AddToHistory(rsPaperLine()); }
 
@@ -1141,21 +1400,29 @@ std::string TQORProgCalcEngine::GetNextHistoryEntry() { return tape_.Next(); }
 // Words are regrouped too.
 std::string TQORProgCalcEngine::GetHistoryEntry(std::uint16_t index) const
 {
-    const std::string* line = tape_.At(index);
-    return line ? Spaced(RemoveGroupSpacing(*line, ' ')) : std::string();
+    std::string s;
+    if (const std::string* line = tape_.At(index))
+        Regroup(s, *line, GroupWidth());
+    return s;
 }
 
-std::string TQORProgCalcEngine::GetLastHistoryEntry() const
+const std::string& TQORProgCalcEngine::GetLastHistoryEntry() const
 {
-    if (!tape_.Last())
-        return {};
-    const std::string& line = *tape_.Last();
+    const std::string* last = tape_.Last();
+    if (last == nullptr) {
+        lastLine_.clear();
+        return lastLine_;
+    }
+    const std::string& line = *last;
     if (line.empty() || !std::isxdigit(static_cast<unsigned char>(line.front())))
+        return line;
+    Regroup(lastLine_, line, GroupWidth());
+    if (lastLine_ == line) // regrouped or not, the same text: the size names need no look
         return line;
     for (TTextFn sizeName : kBitSizeTexts)
         if (line == sizeName())
             return line;
-    return Spaced(RemoveGroupSpacing(line, ' '));
+    return lastLine_;
 }
 
 std::int32_t TQORProgCalcEngine::GetHistoryLength() const { return tape_.Length(); }

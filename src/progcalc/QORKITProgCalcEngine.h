@@ -35,13 +35,14 @@ class QORKIT_CORE_EXPORT IQORProgCalcEngine {
 public:
     virtual ~IQORProgCalcEngine() = default;
 
-    // Display and value.
-    virtual std::string GetDisplayStr() const = 0;
+    // Display and value. The texts returned by reference stay valid until the next call on
+    // the engine; take a copy to keep one longer.
+    virtual const std::string& GetDisplayStr() const = 0;
     virtual std::int64_t GetDisplayValue() = 0;
-    virtual std::string GetDisplayValueHex() = 0;
-    virtual std::string GetDisplayValueOct() = 0;
-    virtual std::string GetDisplayValueBin() = 0;
-    virtual std::string GetLastError() const = 0;
+    virtual const std::string& GetDisplayValueHex() = 0;
+    virtual const std::string& GetDisplayValueOct() = 0;
+    virtual const std::string& GetDisplayValueBin() = 0;
+    virtual const std::string& GetLastError() const = 0;
 
     // Entry.
     virtual void InputString(const std::string& s) = 0;
@@ -98,7 +99,7 @@ public:
     virtual void MemorySubtract() = 0;
     virtual void MemoryRecall() = 0;
     virtual void SetMemory(std::int64_t v) = 0;
-    virtual std::string GetMemoryContents() const = 0;
+    virtual const std::string& GetMemoryContents() const = 0;
     virtual std::int64_t GetMemoryValue() const = 0;
 
     // Switches.
@@ -114,7 +115,7 @@ public:
     virtual void HistoryStart() = 0;
     virtual std::string GetNextHistoryEntry() = 0;
     virtual std::string GetHistoryEntry(std::uint16_t index) const = 0;
-    virtual std::string GetLastHistoryEntry() const = 0;
+    virtual const std::string& GetLastHistoryEntry() const = 0;
     virtual std::int32_t GetHistoryLength() const = 0;
     virtual std::int32_t GetHistoryPosition() const = 0;
     virtual void SetHistoryPosition(std::int32_t value) = 0;
@@ -153,13 +154,21 @@ public:
     // owner refreshes it: the zero display is formed before base and size are set.
     TQORProgCalcEngine();
 
-    std::string GetDisplayStr() const override;
+    const std::string& GetDisplayStr() const override
+    {
+        // The common case first: no grouping (no spacing, or decimal) and a display known to
+        // hold no blank is its own text.
+        const bool ungrouped = (spacing_ & 3U) == psNoSpacing || (baseDisplay_ & 3U) == bdDecimal;
+        if (ungrouped && displayPlain_ == kPlain && !Shown().empty())
+            return Shown();
+        return DisplayStrOtherwise();
+    }
     std::int64_t GetDisplayValue() override;
-    std::string GetDisplayValueHex() override;
-    std::string GetDisplayValueOct() override;
+    const std::string& GetDisplayValueHex() override;
+    const std::string& GetDisplayValueOct() override;
     // Returns the octal text while an entry is in progress; intended and kept.
-    std::string GetDisplayValueBin() override;
-    std::string GetLastError() const override { return lastError_; }
+    const std::string& GetDisplayValueBin() override;
+    const std::string& GetLastError() const override { return lastError_; }
 
     void InputString(const std::string& s) override;
     void InputValue(std::int64_t v) override;
@@ -213,7 +222,7 @@ public:
     void MemorySubtract() override;
     void MemoryRecall() override;
     void SetMemory(std::int64_t v) override;
-    std::string GetMemoryContents() const override { return DisplayValue(memory_); }
+    const std::string& GetMemoryContents() const override;
     std::int64_t GetMemoryValue() const override { return memory_; }
 
     void SetPrefixFunctions(bool value) override { prefixFunctions_ = value; }
@@ -227,7 +236,7 @@ public:
     void HistoryStart() override { tape_.Start(); }
     std::string GetNextHistoryEntry() override;
     std::string GetHistoryEntry(std::uint16_t index) const override;
-    std::string GetLastHistoryEntry() const override;
+    const std::string& GetLastHistoryEntry() const override;
     std::int32_t GetHistoryLength() const override;
     std::int32_t GetHistoryPosition() const override { return tape_.Position(); }
     void SetHistoryPosition(std::int32_t value) override { tape_.SetPosition(value); }
@@ -290,8 +299,7 @@ private:
     std::int64_t OperandA() const;
     std::int64_t OperandB() const;
     std::int64_t Compute(char op) const;
-    void UnaryKey(const std::function<std::int64_t(std::int64_t)>& compute,
-                  const std::string& historyLine);
+    template<class Fn> void UnaryKey(Fn&& compute, const std::string& historyLine);
     void ShiftKey(std::int64_t (*compute)(std::int64_t, int bits, int count),
                   const std::string& word, std::int32_t count);
     void ExtendSignBit();
@@ -302,12 +310,34 @@ private:
     void HandleError(const std::string& message);
     void Notify(const TQORProgCalcNotifyEvent& handler);
     std::string CurrentText() const;
-    std::string Spaced(std::string s) const;
-    std::string GroupedFor(TQORBaseDisplay base, std::string s) const;
+    int GroupWidth() const; // of the current base and spacing
     const std::string* BaseText() const;
     void ShowCurrentText(); // SetDisplayValue(CurrentText()) without a temporary text
-    std::string DisplayValueIn(TQORBaseDisplay textBase);
+    const std::string& DisplayValueIn(TQORBaseDisplay textBase);
     bool OperatorPending() const;
+    void EntryChanged() noexcept; // after any edit of the entry but a digit's
+    // The entry's bits, sign and blank-free state, for an entry just set to digits.
+    void KnowEntryBits(std::uint64_t bits, bool negative) noexcept;
+    void ClearEntry()
+    {
+        DetachDisplay();
+        entry_.clear();
+        KnowEntryBits(0, false);
+    }
+    void ShowEntry(); // the entry as the display
+    const std::string& DisplayStrOtherwise() const; // GetDisplayStr past its common case
+    // The display's text: the entry itself while it is being typed.
+    const std::string& Shown() const { return displayIsEntry_ ? entry_ : display_; }
+    // Gives the display its own copy of the entry before the entry changes otherwise than
+    // by typing.
+    void DetachDisplay()
+    {
+        if (displayIsEntry_) {
+            display_ = entry_;
+            displayIsEntry_ = false;
+        }
+    }
+    void AppendEntryBits(std::uint64_t digit);
 
     // Operand slots, loaded with the word-size parts of the two top operands before each
     // evaluation step (A the right-hand operand, B the left-hand one).
@@ -321,6 +351,13 @@ private:
     std::int64_t int64B_ = 0;
 
     std::string entry_; // characters typed since the last operator or result
+    // The entry's value as EntryValue reads it, kept while only digits are appended: the bits,
+    // and for a decimal entry its sign. Valid while entryBitsKnown_ and the base is entryBase_.
+    std::uint64_t entryBits_ = 0;
+    bool entryNegative_ = false;
+    bool entryBitsKnown_ = false;
+    bool entryPlain_ = true; // the entry holds no blank
+    TQORBaseDisplay entryBase_ = bdBinary;
     std::int64_t value_ = 0;
     // The value texts in base 16, 8 and 2, cut and zero-filled to a size: they are the bit
     // pattern textBits_ at the word size textSize_ of the moment they were last set (which
@@ -337,8 +374,19 @@ private:
     mutable TValueTexts texts_;
     void SetTexts(std::uint64_t bits, TQORBitSize size);
     const std::string& ValueText(TTextBase which) const;
-    bool EntryValue(std::uint64_t& bits) const; // the entry's bits without any text
+    bool EntryValue(std::uint64_t& bits); // the entry's bits without any text
+    std::uint64_t EntryBitsFromText();
     std::string display_;
+    // Whether the display holds no blank, when known (most displays are known to be digits).
+    enum TPlain : std::int8_t { kPlainUnknown = -1, kNotPlain = 0, kPlain = 1 };
+    mutable TPlain displayPlain_ = kPlainUnknown;
+    bool displayIsEntry_ = false; // display_ is stale: the display is entry_
+    // Texts handed out by reference: the grouped display, the three value texts of the
+    // getters (hex, octal, binary), the memory, and the last history line regrouped.
+    mutable std::string shown_;
+    std::string valueTextsOut_[3];
+    mutable std::string memoryText_;
+    mutable std::string lastLine_;
     std::string lastError_;
     char lastKey_ = ' '; // " ": nothing pending
     TQORBaseDisplay baseDisplay_ = bdBinary;
@@ -351,7 +399,40 @@ private:
     bool prefixFunctions_ = false;
     bool precedence_ = false;
     bool memoryHistory_ = false;
-    engine_internal::TQORTapeStore tape_;
+    // The history. A value line keeps the value and the modes it was written in and is
+    // written out when first read; slots and their texts are reused after a clear.
+    class TTape {
+    public:
+        struct TLine {
+            std::string Text;
+            std::int64_t Value = 0;
+            TQORBaseDisplay Base = bdBinary;
+            TQORBitSize Size = bs8Bits;
+            TQORProgSpacing Spacing = psNoSpacing;
+            std::uint8_t MaxLength = 0;
+            bool Pending = false; // Text does not hold the value line yet
+        };
+        TLine& Add(); // the new last line, for the caller to fill
+        void Clear() noexcept
+        {
+            count_ = 0;
+            Start();
+        }
+        void Start() noexcept { position_ = -1; }
+        // The line after the cursor, moving the cursor onto it; empty past the last line.
+        std::string Next();
+        const std::string* At(std::size_t index) const; // nullptr beyond the end
+        const std::string* Last() const { return count_ == 0 ? nullptr : At(count_ - 1); }
+        std::int32_t Length() const noexcept { return static_cast<std::int32_t>(count_); }
+        std::int32_t Position() const noexcept { return position_; }
+        void SetPosition(std::int32_t value) noexcept { position_ = value; }
+
+    private:
+        mutable std::vector<TLine> lines_; // the first count_ are in use
+        std::size_t count_ = 0;
+        std::int32_t position_ = -1;
+    };
+    TTape tape_;
     engine_internal::TQORErrorGuard guard_;
     std::uint8_t maxDisplayLength_ = 0;
 
