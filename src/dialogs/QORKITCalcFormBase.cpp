@@ -11,6 +11,7 @@
 #include <QClipboard>
 #include <QFontInfo>
 #include <QFontMetricsF>
+#include <QGridLayout>
 #include <QKeyEvent>
 #include <QListView>
 #include <QMimeData>
@@ -20,7 +21,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <cstring>
 #include <utility>
 
 namespace qorkit {
@@ -72,22 +72,25 @@ const TFrameKey FrameKeys[] = {
      &TQORCalcFormBase::PasteClick},
 };
 
+using Base = TQORCalcFormBase;
+
 // Shortcut keys of every calculator: Delete clears the display, then the clipboard keys and
-// Ctrl+X to exit. A form may add its own (KeyDowns).
-const TQORKeyDownDef CommonKeyDowns[] = {
-    {Qt::Key_Delete, Qt::NoModifier, false, nullptr, &TQORCalcFormBase::DeleteKey},
-    {Qt::Key_Insert, Qt::ControlModifier, false, "CopyBtn", nullptr},
-    {Qt::Key_C, Qt::ControlModifier, false, "CopyBtn", nullptr},
-    {Qt::Key_V, Qt::ControlModifier, false, "PasteBtn", nullptr},
-    {Qt::Key_X, Qt::ControlModifier, false, "ExitBtn", nullptr},
-    {Qt::Key_Insert, Qt::ShiftModifier, false, "PasteBtn", nullptr},
+// Ctrl+X to exit. A form may add its own (AddKeyDowns).
+const TQORKeyDownDef<Base> CommonKeyDowns[] = {
+    {Qt::Key_Delete, Qt::NoModifier, false, nullptr, &Base::DeleteKey},
+    {Qt::Key_Insert, Qt::ControlModifier, false, &Base::CopyBtn, nullptr},
+    {Qt::Key_C, Qt::ControlModifier, false, &Base::CopyBtn, nullptr},
+    {Qt::Key_V, Qt::ControlModifier, false, &Base::PasteBtn, nullptr},
+    {Qt::Key_X, Qt::ControlModifier, false, &Base::ExitBtn, nullptr},
+    {Qt::Key_Insert, Qt::ShiftModifier, false, &Base::PasteBtn, nullptr},
 };
 
 // Characters every calculator takes; the digits are looked up by value.
-const TQORCharKey CommonCharKeys[] = {
-    {8, "BackSpaceBtn"},     {13, "EqualsBtn"},        {'=', "EqualsBtn"}, {27, "CancelBtn"},
-    {'(', "LeftBracketBtn"}, {')', "RightBracketBtn"}, {'+', "AddBtn"},    {'-', "SubtractBtn"},
-    {'*', "MultiplyBtn"},    {'/', "DivideBtn"},
+const TQORCharKey<Base> CommonCharKeys[] = {
+    {8, &Base::BackSpaceBtn}, {13, &Base::EqualsBtn},       {'=', &Base::EqualsBtn},
+    {27, &Base::CancelBtn},   {'(', &Base::LeftBracketBtn}, {')', &Base::RightBracketBtn},
+    {'+', &Base::AddBtn},     {'-', &Base::SubtractBtn},    {'*', &Base::MultiplyBtn},
+    {'/', &Base::DivideBtn},
 };
 
 // The character a key event types, as the keyboard preview sees it: the control keys as
@@ -146,6 +149,8 @@ TQORCalcFormBase::TQORCalcFormBase(QWidget* parent, TQORFormGeometry geometry, Q
         connect(button, &QToolButton::clicked, this,
                 [this, action = key.Action] { (this->*action)(); });
     }
+    AddCharKeys(*this, CommonCharKeys);
+    AddKeyDowns(*this, CommonKeyDowns);
 }
 
 TQORCalcFormBase::~TQORCalcFormBase() = default;
@@ -171,50 +176,6 @@ QToolButton* TQORCalcFormBase::NewKey(const TQORKeyLook& look)
     if (look.Hint != nullptr)
         button->setToolTip(ToQString(look.Hint()));
     return button;
-}
-
-QToolButton* TQORCalcFormBase::Key(const char* name) const
-{
-    // The keys this form made know their names; anything else is looked up among the children.
-    for (const auto& key : keyTexts_)
-        if (key.Look.Name != nullptr && std::strcmp(key.Look.Name, name) == 0
-            && key.Button->parent() == KeyPanel)
-            return key.Button;
-    return KeyPanel->findChild<QToolButton*>(QString::fromLatin1(name), Qt::FindDirectChildrenOnly);
-}
-
-QToolButton* TQORCalcFormBase::TableKey(const char* name) const
-{
-    QToolButton* button = Key(name);
-    if (button == nullptr) {
-        const QString missing = QString::fromLatin1(name);
-        if (!unknownKeys_.contains(missing))
-            unknownKeys_ << missing;
-        qWarning("%s: no key named %s", metaObject()->className(), name);
-        Q_ASSERT_X(false, "TQORCalcFormBase::TableKey", "a key table names a key the form lacks");
-    }
-    return button;
-}
-
-QStringList TQORCalcFormBase::UnknownKeyNames() const
-{
-    auto charTables = CharKeys();
-    charTables.insert(charTables.begin(), CommonCharKeys);
-    for (const auto& table : charTables) {
-        for (const auto& key : table) {
-            for (const char* name : {key.Button, key.Then}) {
-                if (name != nullptr)
-                    TableKey(name);
-            }
-        }
-    }
-    for (const auto table : {std::span<const TQORKeyDownDef>(CommonKeyDowns), KeyDowns()}) {
-        for (const auto& def : table) {
-            if (def.Button != nullptr)
-                TableKey(def.Button);
-        }
-    }
-    return unknownKeys_;
 }
 
 void TQORCalcFormBase::UpdateLanguage()
@@ -343,19 +304,30 @@ void TQORCalcFormBase::UpdateTabOrder()
         setTabOrder(chain[i - 1], chain[i]);
 }
 
-void TQORCalcFormBase::PlaceKeys(std::span<const TQORKeyPlace> places, int rows)
+void TQORCalcFormBase::LayOutGrid(const std::vector<TGridCell>& cells, int rows)
 {
+    // Every cell of the grid is one key wide and high, with no gaps: at the form's own scale
+    // the keys stand where the cells are, mirrored when the form reads right to left.
     const int w = geometry_.KeyWidth;
     const int h = geometry_.KeyHeight;
+    delete KeyPanel->layout(); // the keys stay; the small calculator moves them
+    auto* grid = new QGridLayout(KeyPanel);
+    grid->setObjectName(QStringLiteral("KeyGrid"));
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(0);
+    for (int col = 0; col < geometry_.Columns; ++col)
+        grid->setColumnMinimumWidth(col, w);
+    for (int row = 0; row < rows; ++row)
+        grid->setRowMinimumHeight(row, h);
     for (auto* button : KeyPanel->findChildren<QToolButton*>(Qt::FindDirectChildrenOnly))
         button->hide();
-    for (const auto& place : places) {
-        if (QToolButton* button = TableKey(place.Name)) {
-            button->setGeometry(place.Col * w, place.Row * h, place.Span * w, h);
-            button->show();
-        }
+    for (const auto& cell : cells) {
+        cell.Widget->setFixedSize(cell.Span * w, h);
+        grid->addWidget(cell.Widget, cell.Row, cell.Col, 1, cell.Span);
+        cell.Widget->show();
     }
-    KeyPanel->resize(geometry_.Columns * w, rows * h);
+    KeyPanel->setFixedSize(geometry_.Columns * w, rows * h);
+    grid->activate(); // a form not shown yet has its keys in place too
     FitKeyCaptions();
 }
 
@@ -427,15 +399,13 @@ void TQORCalcFormBase::InstallKeyPreview()
         child->installEventFilter(this);
 }
 
-std::span<const TQORKeyDownDef> TQORCalcFormBase::KeyDowns() const { return {}; }
-
 bool TQORCalcFormBase::OtherChar(char) { return false; }
 
-void TQORCalcFormBase::Click(const char* name)
+void TQORCalcFormBase::Click(TQORKeyMember<TQORCalcFormBase> key)
 {
-    if (name == nullptr)
+    if (key == nullptr)
         return;
-    if (QToolButton* button = TableKey(name))
+    if (QToolButton* button = this->*key)
         button->click();
 }
 
@@ -443,18 +413,16 @@ bool TQORCalcFormBase::PreviewKey(QKeyEvent* event)
 {
     const Qt::KeyboardModifiers modifiers = event->modifiers();
     const Qt::KeyboardModifiers shifts = modifiers & ~Qt::KeypadModifier;
-    for (const auto table : {std::span<const TQORKeyDownDef>(CommonKeyDowns), KeyDowns()}) {
-        for (const auto& def : table) {
-            if (event->key() != def.Key || shifts != def.Modifiers)
-                continue;
-            if (def.Keypad && !(modifiers & Qt::KeypadModifier))
-                continue;
-            if (def.Button != nullptr)
-                Click(def.Button);
-            else
-                (this->*def.Action)();
-            return true;
-        }
+    for (const auto& def : keyDowns_) {
+        if (event->key() != def.Key || shifts != def.Modifiers)
+            continue;
+        if (def.Keypad && !(modifiers & Qt::KeypadModifier))
+            continue;
+        if (def.Button != nullptr)
+            Click(def.Button);
+        else
+            (this->*def.Action)();
+        return true;
     }
     return false;
 }
@@ -472,15 +440,11 @@ bool TQORCalcFormBase::PreviewChar(QKeyEvent* event, char ch)
         digits[ch - '0']->click();
         return true;
     }
-    auto tables = CharKeys();
-    tables.insert(tables.begin(), CommonCharKeys);
-    for (const auto& table : tables) {
-        for (const auto& key : table) {
-            if (key.Ch == ch) {
-                Click(key.Button);
-                Click(key.Then);
-                return true;
-            }
+    for (const auto& key : charKeys_) {
+        if (key.Ch == ch) {
+            Click(key.Key);
+            Click(key.Then);
+            return true;
         }
     }
     return OtherChar(ch);

@@ -32,9 +32,11 @@
 
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <memory>
 #include <span>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 class QListView;
@@ -59,36 +61,41 @@ struct QORKIT_WIDGETS_EXPORT TQORKeyLook {
     TQORTextFn Hint;
 };
 
+// A key of a form, named by the member that holds it (`&TQORCalcForm::PercentBtn`). A table
+// of a form's keys is typed by the form, so its rows may name the form's keys and those of its
+// base classes; a misspelled key, or a key of another form, does not compile.
+template<class Form> using TQORKeyMember = QToolButton* Form::*;
+
 // One key of a form: the member that holds it, its look and the engine call of a click.
 template<class Form, class Engine> struct TQORKeyDef {
-    QToolButton* Form::*Member;
+    TQORKeyMember<Form> Member;
     TQORKeyLook Look;
     void (*Click)(Engine& engine);
 };
 
-// A key's cell in a layout: column, row and width in keys.
-struct QORKIT_WIDGETS_EXPORT TQORKeyPlace {
-    const char* Name;
+// A key's cell in a form's key grid: column, row and width in keys.
+template<class Form> struct TQORKeyPlace {
+    TQORKeyMember<Form> Key;
     int Col;
     int Row;
     int Span = 1;
 };
 
-// A typed character and the button(s) it clicks.
-struct QORKIT_WIDGETS_EXPORT TQORCharKey {
+// A typed character and the key(s) it clicks.
+template<class Form> struct TQORCharKey {
     char Ch;
-    const char* Button;
-    const char* Then = nullptr;
+    TQORKeyMember<Form> Key;
+    TQORKeyMember<Form> Then = nullptr;
 };
 
-// A shortcut key (with exactly these modifiers) and what it does: a button click, or a
-// method of the form.
+// A shortcut key (with exactly these modifiers) and what it does: a key click, or a method of
+// the form.
 class TQORCalcFormBase;
-struct QORKIT_WIDGETS_EXPORT TQORKeyDownDef {
+template<class Form> struct TQORKeyDownDef {
     int Key;
     Qt::KeyboardModifiers Modifiers;
     bool Keypad;
-    const char* Button;
+    TQORKeyMember<Form> Button;
     void (TQORCalcFormBase::*Action)();
 };
 
@@ -189,10 +196,6 @@ public:
     // The engine's last error text.
     virtual std::string GetLastError() const = 0;
 
-    // Names in the form's key tables (layout, typed characters, shortcut keys) that name no key
-    // of the form. Empty for a sound form; an unknown name also asserts in debug builds.
-    QStringList UnknownKeyNames() const;
-
 public Q_SLOTS:
     // Texts of every key and the caption from the resource strings (also done on
     // QEvent::LanguageChange while the form exists; a caption the host set is kept).
@@ -209,10 +212,14 @@ public Q_SLOTS:
 protected:
     TQORCalcFormBase(QWidget* parent, TQORFormGeometry geometry, QFont keyFont);
 
+    // Makes the keys of a table and puts each in its member of `form`, the form itself (which
+    // ties the table to the form's class); a click calls the engine.
     template<class Form, class Engine>
-    void AddKeys(std::span<const TQORKeyDef<Form, Engine>> defs, Engine& engine)
+    void AddKeys(
+        Form& form,
+        std::span<const TQORKeyDef<std::type_identity_t<Form>, std::type_identity_t<Engine>>> defs,
+        Engine& engine)
     {
-        auto& form = static_cast<Form&>(*this);
         for (const auto& def : defs) {
             QToolButton* button = NewKey(def.Look);
             form.*(def.Member) = button;
@@ -223,20 +230,52 @@ protected:
         }
     }
 
+    // Makes the keys every calculator has (QORCommonKeys), calling `engine`.
+    template<class Engine> void AddCommonKeys(Engine& engine);
+
     QToolButton* NewKey(const TQORKeyLook& look);
-    // The key of that name, or null.
     // Gives a text key the key panel's font, or the largest smaller size of it in which the
     // caption fits between the key's frame: keys keep their size whatever the caption, the
     // language, the font or the screen scale.
     void FitKeyCaption(QToolButton* key) const;
     void FitKeyCaptions() const;
-    QToolButton* Key(const char* name) const;
-    // The key of a name from one of the form's tables: a name that names no key is a fault of
-    // the table; it asserts in debug builds and is reported by UnknownKeyNames().
-    QToolButton* TableKey(const char* name) const;
-    // Lays the keys out in the grid and sizes the key panel; keys missing from `places` are
-    // hidden.
-    void PlaceKeys(std::span<const TQORKeyPlace> places, int rows);
+
+    // A control of the key panel that is not a key (the decimal-places spin edit) and its cell.
+    struct TGridCell {
+        QWidget* Widget;
+        int Col;
+        int Row;
+        int Span;
+    };
+    // Lays the keys of `places` and the `more` controls out in the key panel's grid, each of
+    // the fixed size of its cells, and sizes the panel; keys missing from `places` are hidden.
+    // `form` is the form itself: it ties the table to the form's class.
+    template<class Form>
+    void PlaceKeys(const Form& form,
+                   std::span<const TQORKeyPlace<std::type_identity_t<Form>>> places, int rows,
+                   std::initializer_list<TGridCell> more = {})
+    {
+        std::vector<TGridCell> cells(more);
+        for (const auto& place : places)
+            cells.push_back({form.*(place.Key), place.Col, place.Row, place.Span});
+        LayOutGrid(cells, rows);
+    }
+    // Adds a table of typed characters (searched in the order added, after the digits) and a
+    // table of shortcut keys; `form` is the form itself, as for PlaceKeys. The keys are looked
+    // up when a key is pressed, so a table may be added before its keys are made.
+    template<class Form>
+    void AddCharKeys(const Form&, std::span<const TQORCharKey<std::type_identity_t<Form>>> table)
+    {
+        for (const auto& row : table)
+            charKeys_.push_back({row.Ch, AsFormKey(row.Key), AsFormKey(row.Then)});
+    }
+    template<class Form>
+    void AddKeyDowns(const Form&, std::span<const TQORKeyDownDef<std::type_identity_t<Form>>> table)
+    {
+        for (const auto& row : table)
+            keyDowns_.push_back(
+                {row.Key, row.Modifiers, row.Keypad, AsFormKey(row.Button), row.Action});
+    }
     // The float calculators' frame: value panel at the top, the key grid, the memory panel
     // below, both panels as wide as the form less the margins; `extraHeight` is added.
     void LayoutPanels(int rows, int extraHeight = 0);
@@ -252,12 +291,6 @@ protected:
     // Sets up the keyboard preview on the form and every child it has by now.
     void InstallKeyPreview();
 
-    // The character tables of a form, searched in order after the keys every calculator
-    // has (digits, backspace, enter, "=", escape, brackets and the four operators).
-    virtual std::vector<std::span<const TQORCharKey>> CharKeys() const = 0;
-    // Shortcut keys of the form, searched after the ones every calculator has (Delete and the
-    // clipboard keys).
-    virtual std::span<const TQORKeyDownDef> KeyDowns() const;
     // Whether a handled character stops there (otherwise it also reaches the focused control).
     virtual bool SwallowChars() const { return true; }
     // Whether letters are folded to upper case before the table is searched.
@@ -275,7 +308,15 @@ protected:
 private:
     bool PreviewKey(QKeyEvent* event);
     bool PreviewChar(QKeyEvent* event, char ch);
-    void Click(const char* name);
+    void LayOutGrid(const std::vector<TGridCell>& cells, int rows);
+
+    // A key member of a form derived from this class, kept as a member of this class: it is
+    // applied to this form only, which is of the class the member was taken from.
+    template<class Form> static TQORKeyMember<TQORCalcFormBase> AsFormKey(TQORKeyMember<Form> key)
+    {
+        return static_cast<TQORKeyMember<TQORCalcFormBase>>(key);
+    }
+    void Click(TQORKeyMember<TQORCalcFormBase> key);
     void ApplyWindowFlags();
 
     void SetDisplayFont(const QFont& font);
@@ -285,7 +326,8 @@ private:
         TQORKeyLook Look;
     };
     std::vector<KeyText> keyTexts_;
-    mutable QStringList unknownKeys_; // names TableKey could not find
+    std::vector<TQORCharKey<TQORCalcFormBase>> charKeys_;
+    std::vector<TQORKeyDownDef<TQORCalcFormBase>> keyDowns_;
     QString defaultTitle_; // the caption UpdateLanguage gave
     QFont displayFont_; // of both panels, before any fitting
     std::vector<std::pair<TQORBasePanel*, QString>> fittedTexts_;
@@ -379,6 +421,11 @@ inline constexpr TQORKeyDef<TQORCalcFormBase, Engine> QORCommonKeys[] = {
      {"MemoryRecallBtn", nullptr, rsMRKey, -1, rsMRHint},
      [](Engine& e) { e.MemoryRecall(); }},
 };
+
+template<class Engine> void TQORCalcFormBase::AddCommonKeys(Engine& engine)
+{
+    AddKeys<TQORCalcFormBase, Engine>(*this, QORCommonKeys<Engine>, engine);
+}
 
 // ---- Components ------------------------------------------------------------------------------
 

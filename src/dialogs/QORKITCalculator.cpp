@@ -12,50 +12,53 @@ namespace {
 constexpr TQORFormGeometry CalcGeometry {30, 22, 6, 8};
 constexpr int FunctionRows = 2; // the rows the small calculator drops
 
+using Calc = TQORCalcForm;
+
 // The full calculator; the small one drops the two function rows and the function keys
 // elsewhere, and puts the percent key where "e" was: in the row of "+", under "C".
-const TQORKeyPlace FullPlaces[] = {
-    {"RadBtn", 0, 0},          {"InvBtn", 1, 0},
-    {"SinBtn", 2, 0},          {"CosBtn", 3, 0},
-    {"TanBtn", 4, 0},          {"PiBtn", 5, 0},
-    {"LogBtn", 0, 1},          {"LNBtn", 1, 1},
-    {"PowerBtn", 2, 1},        {"SquareBtn", 3, 1},
-    {"SqRootBtn", 4, 1},       {"InvertBtn", 5, 1},
-    {"MemoryClearBtn", 0, 2},  {"MemoryRecallBtn", 1, 2},
-    {"MemoryAddBtn", 2, 2},    {"MemorySubtractBtn", 3, 2},
-    {"AllClearBtn", 4, 2},     {"ClearBtn", 5, 2},
-    {"SevenBtn", 0, 3},        {"EightBtn", 1, 3},
-    {"NineBtn", 2, 3},         {"LeftBracketBtn", 3, 3},
-    {"RightBracketBtn", 4, 3}, {"BackSpaceBtn", 5, 3},
-    {"FourBtn", 0, 4},         {"FiveBtn", 1, 4},
-    {"SixBtn", 2, 4},          {"MultiplyBtn", 3, 4},
-    {"DivideBtn", 4, 4},       {"ChangeSignBtn", 5, 4},
-    {"OneBtn", 0, 5},          {"TwoBtn", 1, 5},
-    {"ThreeBtn", 2, 5},        {"AddBtn", 3, 5},
-    {"SubtractBtn", 4, 5},     {"EBtn", 5, 5},
-    {"ZeroBtn", 0, 6},         {"PointBtn", 1, 6},
-    {"EqualsBtn", 2, 6, 3},    {"PercentBtn", 5, 6},
-    {"CopyBtn", 0, 7},         {"PasteBtn", 1, 7},
-    {"CancelBtn", 4, 7},       {"ExitBtn", 5, 7},
+const TQORKeyPlace<Calc> FullPlaces[] = {
+    {&Calc::RadBtn, 0, 0},          {&Calc::InvBtn, 1, 0},
+    {&Calc::SinBtn, 2, 0},          {&Calc::CosBtn, 3, 0},
+    {&Calc::TanBtn, 4, 0},          {&Calc::PiBtn, 5, 0},
+    {&Calc::LogBtn, 0, 1},          {&Calc::LNBtn, 1, 1},
+    {&Calc::PowerBtn, 2, 1},        {&Calc::SquareBtn, 3, 1},
+    {&Calc::SqRootBtn, 4, 1},       {&Calc::InvertBtn, 5, 1},
+    {&Calc::MemoryClearBtn, 0, 2},  {&Calc::MemoryRecallBtn, 1, 2},
+    {&Calc::MemoryAddBtn, 2, 2},    {&Calc::MemorySubtractBtn, 3, 2},
+    {&Calc::AllClearBtn, 4, 2},     {&Calc::ClearBtn, 5, 2},
+    {&Calc::SevenBtn, 0, 3},        {&Calc::EightBtn, 1, 3},
+    {&Calc::NineBtn, 2, 3},         {&Calc::LeftBracketBtn, 3, 3},
+    {&Calc::RightBracketBtn, 4, 3}, {&Calc::BackSpaceBtn, 5, 3},
+    {&Calc::FourBtn, 0, 4},         {&Calc::FiveBtn, 1, 4},
+    {&Calc::SixBtn, 2, 4},          {&Calc::MultiplyBtn, 3, 4},
+    {&Calc::DivideBtn, 4, 4},       {&Calc::ChangeSignBtn, 5, 4},
+    {&Calc::OneBtn, 0, 5},          {&Calc::TwoBtn, 1, 5},
+    {&Calc::ThreeBtn, 2, 5},        {&Calc::AddBtn, 3, 5},
+    {&Calc::SubtractBtn, 4, 5},     {&Calc::EBtn, 5, 5},
+    {&Calc::ZeroBtn, 0, 6},         {&Calc::PointBtn, 1, 6},
+    {&Calc::EqualsBtn, 2, 6, 3},    {&Calc::PercentBtn, 5, 6},
+    {&Calc::CopyBtn, 0, 7},         {&Calc::PasteBtn, 1, 7},
+    {&Calc::CancelBtn, 4, 7},       {&Calc::ExitBtn, 5, 7},
 };
-constexpr int SpinCol = 2;
+constexpr int SpinCol = 2; // the decimal-places spin edit, two keys wide
 constexpr int SpinRow = 7;
 
-const char* const SmallHidden[] = {
-    "PiBtn",    "EBtn",      "SinBtn",    "CosBtn",    "TanBtn", "RadBtn", "InvBtn",
-    "PowerBtn", "SquareBtn", "SqRootBtn", "InvertBtn", "LogBtn", "LNBtn",
+const TQORKeyMember<Calc> SmallHidden[] = {
+    &Calc::PiBtn,     &Calc::EBtn,   &Calc::SinBtn,   &Calc::CosBtn,    &Calc::TanBtn,
+    &Calc::RadBtn,    &Calc::InvBtn, &Calc::PowerBtn, &Calc::SquareBtn, &Calc::SqRootBtn,
+    &Calc::InvertBtn, &Calc::LogBtn, &Calc::LNBtn,
 };
-constexpr TQORKeyPlace SmallPercent {"PercentBtn", 5, 5 - FunctionRows};
+const TQORKeyPlace<Calc> SmallPercent {&Calc::PercentBtn, 5, 5 - FunctionRows};
 
 // "@" is x to the 1/y: the inverse toggle, then the power key.
-const TQORCharKey CalcCharKeys[] = {
-    {'@', "InvBtn", "PowerBtn"},
+const TQORCharKey<Calc> CalcCharKeys[] = {
+    {'@', &Calc::InvBtn, &Calc::PowerBtn},
 };
 
 // Only the standard calculator exits on F10 and takes the numeric pad's decimal key straight
 // to the engine, whatever character that key types.
-const TQORKeyDownDef CalcKeyDowns[] = {
-    {Qt::Key_F10, Qt::NoModifier, false, "ExitBtn", nullptr},
+const TQORKeyDownDef<Calc> CalcKeyDowns[] = {
+    {Qt::Key_F10, Qt::NoModifier, false, &Calc::ExitBtn, nullptr},
     {Qt::Key_Period, Qt::NoModifier, true, nullptr, &TQORCalcFormBase::KeypadDecimal},
     {Qt::Key_Comma, Qt::NoModifier, true, nullptr, &TQORCalcFormBase::KeypadDecimal},
 };
@@ -83,18 +86,13 @@ const TQORStoreKey CalcStoreKeys[] = {
 
 TQORCalcForm::TQORCalcForm(QWidget* parent) : TQORFloatCalcForm(parent, CalcGeometry)
 {
+    AddCharKeys(*this, CalcCharKeys);
+    AddKeyDowns(*this, CalcKeyDowns);
     UpdateLanguage();
     RedrawCalc();
     RefreshDisplays();
     InstallKeyPreview();
 }
-
-std::vector<std::span<const TQORCharKey>> TQORCalcForm::CharKeys() const
-{
-    return {FloatChars(), CalcCharKeys};
-}
-
-std::span<const TQORKeyDownDef> TQORCalcForm::KeyDowns() const { return CalcKeyDowns; }
 
 void TQORCalcForm::SetHideFnBtns(bool value)
 {
@@ -107,23 +105,19 @@ void TQORCalcForm::SetHideFnBtns(bool value)
 void TQORCalcForm::RedrawCalc()
 {
     const int rowShift = hideFnBtns_ ? FunctionRows : 0;
-    std::vector<TQORKeyPlace> places;
+    std::vector<TQORKeyPlace<Calc>> places;
     for (const auto& place : FullPlaces) {
-        const auto hidden = [&place](const char* name) { return qstrcmp(name, place.Name) == 0; };
-        if (hideFnBtns_ && std::any_of(std::begin(SmallHidden), std::end(SmallHidden), hidden))
+        if (hideFnBtns_ && std::ranges::find(SmallHidden, place.Key) != std::end(SmallHidden))
             continue;
-        const bool movedPercent = hideFnBtns_ && qstrcmp(place.Name, SmallPercent.Name) == 0;
-        places.push_back(
-            movedPercent ? SmallPercent
-                         : TQORKeyPlace {place.Name, place.Col, place.Row - rowShift, place.Span});
+        const bool movedPercent = hideFnBtns_ && place.Key == SmallPercent.Key;
+        places.push_back(movedPercent ? SmallPercent
+                                      : TQORKeyPlace<Calc> {place.Key, place.Col,
+                                                            place.Row - rowShift, place.Span});
     }
     const int rows = CalcGeometry.Rows - rowShift;
-    PlaceKeys(places, rows);
+    PlaceKeys(*this, places, rows, {{DPSpin, SpinCol, SpinRow - rowShift, 2}});
     // The small calculator is 2 (D + 3 H) + 3 high, two pixels less than the general rule.
     LayoutPanels(rows, hideFnBtns_ ? -2 : 0);
-    DPSpin->setGeometry(SpinCol * CalcGeometry.KeyWidth,
-                        (SpinRow - rowShift) * CalcGeometry.KeyHeight, 2 * CalcGeometry.KeyWidth,
-                        CalcGeometry.KeyHeight);
     SetHelpContext(hideFnBtns_ ? QORSmallCalcHelpContext : QORCalcHelpContext);
 }
 

@@ -28,8 +28,6 @@ public:
     void RedrawCalc();
 
 protected:
-    std::vector<std::span<const TQORCharKey>> CharKeys() const override;
-    std::span<const TQORKeyDownDef> KeyDowns() const override;
     // Characters are also passed on to the focused control.
     bool SwallowChars() const override { return false; }
 

@@ -72,33 +72,26 @@ const TFloatKey FloatKeys[] = {
      [](TQORCalcEngine& e) { e.ToggleAngleMode(); }},
 };
 
+using Float = TQORFloatCalcForm;
+
 // Letters and signs both floating-point calculators take.
-const TQORCharKey FloatCharKeys[] = {
-    {'A', "AllClearBtn"}, {'C', "ClearBtn"}, {'I', "InvertBtn"},     {'P', "PiBtn"},
-    {'R', "SqRootBtn"},   {'^', "PowerBtn"}, {'_', "ChangeSignBtn"}, {'X', "MultiplyBtn"},
+const TQORCharKey<Float> FloatCharKeys[] = {
+    {'A', &Float::AllClearBtn},   {'C', &Float::ClearBtn},    {'I', &Float::InvertBtn},
+    {'P', &Float::PiBtn},         {'R', &Float::SqRootBtn},   {'^', &Float::PowerBtn},
+    {'_', &Float::ChangeSignBtn}, {'X', &Float::MultiplyBtn},
 };
 
-// How a function key reads while Inv and / or Hyp is on. Trigonometric keys take an "a" in
-// front for the inverse and an "h" behind for the hyperbolic form; the others show the
-// inverse function's own text or glyph.
-struct TToggleLabel {
-    const char* Name;
-    TQORTextFn Caption;
-    TQORTextFn InvCaption;
-    bool Trig;
-    int Glyph;
-    int InvGlyph;
-};
-
-const TToggleLabel ToggleLabels[] = {
-    {"SinBtn", rsSinKey, nullptr, true, -1, -1},
-    {"CosBtn", rsCosKey, nullptr, true, -1, -1},
-    {"TanBtn", rsTanKey, nullptr, true, -1, -1},
-    {"LogBtn", rsLogKey, rs10toXPaper, false, -1, -1},
-    {"LNBtn", rsLnKey, rsEtoXPaper, false, -1, -1},
-    {"Lg2btn", rsLg2Key, rsInvLog2Paper, false, -1, -1},
-    {"SquareBtn", nullptr, nullptr, false, glSquare, glSqRoot},
-    {"SqRootBtn", nullptr, nullptr, false, glSqRoot, glSquare},
+const struct {
+    TQORKeyMember<Float> Key;
+    TQORToggleLabel Label;
+} ToggleLabels[] = {
+    {&Float::SinBtn, {rsSinKey, nullptr, true, -1, -1}},
+    {&Float::CosBtn, {rsCosKey, nullptr, true, -1, -1}},
+    {&Float::TanBtn, {rsTanKey, nullptr, true, -1, -1}},
+    {&Float::LogBtn, {rsLogKey, rs10toXPaper, false, -1, -1}},
+    {&Float::LNBtn, {rsLnKey, rsEtoXPaper, false, -1, -1}},
+    {&Float::SquareBtn, {nullptr, nullptr, false, glSquare, glSqRoot}},
+    {&Float::SqRootBtn, {nullptr, nullptr, false, glSqRoot, glSquare}},
 };
 
 } // namespace
@@ -114,8 +107,9 @@ TQORFloatCalcForm::TQORFloatCalcForm(QWidget* parent, TQORFormGeometry geometry)
       engineObject_(new TQORCalcEngineObject(this)), engine_(engineObject_->GetEngine())
 {
     engineObject_->setObjectName(QStringLiteral("EngineObject"));
-    AddKeys<TQORCalcFormBase, TQORCalcEngine>(QORCommonKeys<TQORCalcEngine>, engine_);
-    AddKeys<TQORFloatCalcForm, TQORCalcEngine>(FloatKeys, engine_);
+    AddCommonKeys(engine_);
+    AddKeys(*this, FloatKeys, engine_);
+    AddCharKeys(*this, FloatCharKeys);
     InvBtn->setCheckable(true);
     // The key shows the engine's toggle, not its own checked state.
     connect(InvBtn, &QToolButton::clicked, this, [this] { ShowToggles(); });
@@ -144,8 +138,6 @@ TQORFloatCalcForm::TQORFloatCalcForm(QWidget* parent, TQORFormGeometry geometry)
     connect(front, &TQORCalcEngineObject::togglesChange, this, &TQORFloatCalcForm::ShowToggles);
     SetTapeModel(new TQORTapeModel(engine_, this));
 }
-
-std::span<const TQORCharKey> TQORFloatCalcForm::FloatChars() { return FloatCharKeys; }
 
 bool TQORFloatCalcForm::OtherChar(char ch)
 {
@@ -193,29 +185,26 @@ void TQORFloatCalcForm::UpdateLanguage()
 
 void TQORFloatCalcForm::ShowToggles()
 {
+    InvBtn->setChecked(engine_.GetIsInv());
+    for (const auto& [key, label] : ToggleLabels)
+        ShowToggle(this->*key, label);
+}
+
+void TQORFloatCalcForm::ShowToggle(QToolButton* key, const TQORToggleLabel& label)
+{
     const bool inv = engine_.GetIsInv();
-    const bool hyp = engine_.GetIsHyp();
-    InvBtn->setChecked(inv);
-    if (auto* hypBtn = Key("HypBtn"))
-        hypBtn->setChecked(hyp);
-    for (const auto& label : ToggleLabels) {
-        QToolButton* button = Key(label.Name);
-        if (button == nullptr)
-            continue;
-        if (label.Glyph >= 0) {
-            button->setIcon(
-                QORGlyphIcon(static_cast<TQORGlyph>(inv ? label.InvGlyph : label.Glyph)));
-            continue;
-        }
-        std::string text = label.Caption();
-        if (label.Trig) {
-            // Hyperbolic keys exist only on the scientific form; without one Hyp stays off.
-            text = (inv ? "a" : "") + text + (hyp ? "h" : "");
-        } else if (inv) {
-            text = label.InvCaption();
-        }
-        SetKeyText(button, QString::fromStdString(text));
+    if (label.Glyph >= 0) {
+        key->setIcon(QORGlyphIcon(static_cast<TQORGlyph>(inv ? label.InvGlyph : label.Glyph)));
+        return;
     }
+    std::string text = label.Caption();
+    if (label.Trig) {
+        // Hyperbolic keys exist only on the scientific form; without one Hyp stays off.
+        text = (inv ? "a" : "") + text + (engine_.GetIsHyp() ? "h" : "");
+    } else if (inv) {
+        text = label.InvCaption();
+    }
+    SetKeyText(key, QString::fromStdString(text));
 }
 
 } // namespace qorkit

@@ -15,6 +15,17 @@ namespace qorkit {
 
 QORKIT_WIDGETS_EXPORT void EnterDigit(TQORCalcEngine& engine, int digit);
 
+// How a function key reads while Inv and / or Hyp is on. Trigonometric keys take an "a" in
+// front for the inverse and an "h" behind for the hyperbolic form; the others show the
+// inverse function's own caption or glyph.
+struct QORKIT_WIDGETS_EXPORT TQORToggleLabel {
+    TQORTextFn Caption;
+    TQORTextFn InvCaption;
+    bool Trig;
+    int Glyph;
+    int InvGlyph;
+};
+
 class QORKIT_WIDGETS_EXPORT TQORFloatCalcForm : public TQORCalcFormBase {
     Q_OBJECT
 
@@ -51,15 +62,15 @@ public:
     void SetFlatSpin(bool value);
     void UpdateLanguage() override;
     // Relabels the function keys for the engine's Inv and Hyp toggles.
-    void ShowToggles();
+    virtual void ShowToggles();
     void DeleteKey() override { engine_.ClearDisplay(); }
     void KeypadDecimal() override { engine_.InputDecimalSeparator(); }
 
 protected:
     TQORFloatCalcForm(QWidget* parent, TQORFormGeometry geometry);
 
-    // Characters both floating-point calculators take.
-    static std::span<const TQORCharKey> FloatChars();
+    // Relabels one function key for the engine's toggles.
+    void ShowToggle(QToolButton* key, const TQORToggleLabel& label);
     // The locale's decimal separator enters the separator, whatever it is.
     bool OtherChar(char ch) override;
     void PasteText(const std::string& text) override { engine_.InputString(text); }

@@ -93,61 +93,64 @@ const TProgKey ProgKeys[] = {
      [](IQORProgCalcEngine& e) { e.DoRor(1); }},
 };
 
-const TQORKeyPlace ProgPlaces[] = {
-    {"DBtn", 0, 0},
-    {"EBtn", 1, 0},
-    {"FBtn", 2, 0},
-    {"SevenBtn", 3, 0},
-    {"EightBtn", 4, 0},
-    {"NineBtn", 5, 0},
-    {"DivideBtn", 6, 0},
-    {"LeftBracketBtn", 7, 0},
-    {"RightBracketBtn", 8, 0},
-    {"ANDBtn", 9, 0},
-    {"NANDBtn", 10, 0},
-    {"AllClearBtn", 11, 0},
-    {"ClearBtn", 12, 0},
-    {"ABtn", 0, 1},
-    {"BBtn", 1, 1},
-    {"CBtn", 2, 1},
-    {"FourBtn", 3, 1},
-    {"FiveBtn", 4, 1},
-    {"SixBtn", 5, 1},
-    {"MultiplyBtn", 6, 1},
-    {"SHLBtn", 7, 1},
-    {"SHRBtn", 8, 1},
-    {"ORBtn", 9, 1},
-    {"NORBtn", 10, 1},
-    {"BackSpaceBtn", 11, 1},
-    {"CopyBtn", 12, 1},
-    {"MemoryClearBtn", 0, 2},
-    {"MemoryRecallBtn", 1, 2},
-    {"MemoryAddBtn", 2, 2},
-    {"OneBtn", 3, 2},
-    {"TwoBtn", 4, 2},
-    {"ThreeBtn", 5, 2},
-    {"SubtractBtn", 6, 2},
-    {"ROLBtn", 7, 2},
-    {"RORBtn", 8, 2},
-    {"XORBtn", 9, 2},
-    {"XNORBtn", 10, 2},
-    {"MemorySubtractBtn", 11, 2},
-    {"PasteBtn", 12, 2},
-    {"ModBtn", 0, 3},
-    {"NotBtn", 1, 3},
-    {"NEGBtn", 2, 3},
-    {"ZeroBtn", 3, 3},
-    {"EqualsBtn", 4, 3, 2},
-    {"AddBtn", 6, 3},
-    {"CancelBtn", 11, 3},
-    {"ExitBtn", 12, 3},
+using Prog = TQORProgCalcForm;
+
+const TQORKeyPlace<Prog> ProgPlaces[] = {
+    {&Prog::DBtn, 0, 0},
+    {&Prog::EBtn, 1, 0},
+    {&Prog::FBtn, 2, 0},
+    {&Prog::SevenBtn, 3, 0},
+    {&Prog::EightBtn, 4, 0},
+    {&Prog::NineBtn, 5, 0},
+    {&Prog::DivideBtn, 6, 0},
+    {&Prog::LeftBracketBtn, 7, 0},
+    {&Prog::RightBracketBtn, 8, 0},
+    {&Prog::ANDBtn, 9, 0},
+    {&Prog::NANDBtn, 10, 0},
+    {&Prog::AllClearBtn, 11, 0},
+    {&Prog::ClearBtn, 12, 0},
+    {&Prog::ABtn, 0, 1},
+    {&Prog::BBtn, 1, 1},
+    {&Prog::CBtn, 2, 1},
+    {&Prog::FourBtn, 3, 1},
+    {&Prog::FiveBtn, 4, 1},
+    {&Prog::SixBtn, 5, 1},
+    {&Prog::MultiplyBtn, 6, 1},
+    {&Prog::SHLBtn, 7, 1},
+    {&Prog::SHRBtn, 8, 1},
+    {&Prog::ORBtn, 9, 1},
+    {&Prog::NORBtn, 10, 1},
+    {&Prog::BackSpaceBtn, 11, 1},
+    {&Prog::CopyBtn, 12, 1},
+    {&Prog::MemoryClearBtn, 0, 2},
+    {&Prog::MemoryRecallBtn, 1, 2},
+    {&Prog::MemoryAddBtn, 2, 2},
+    {&Prog::OneBtn, 3, 2},
+    {&Prog::TwoBtn, 4, 2},
+    {&Prog::ThreeBtn, 5, 2},
+    {&Prog::SubtractBtn, 6, 2},
+    {&Prog::ROLBtn, 7, 2},
+    {&Prog::RORBtn, 8, 2},
+    {&Prog::XORBtn, 9, 2},
+    {&Prog::XNORBtn, 10, 2},
+    {&Prog::MemorySubtractBtn, 11, 2},
+    {&Prog::PasteBtn, 12, 2},
+    {&Prog::ModBtn, 0, 3},
+    {&Prog::NotBtn, 1, 3},
+    {&Prog::NEGBtn, 2, 3},
+    {&Prog::ZeroBtn, 3, 3},
+    {&Prog::EqualsBtn, 4, 3, 2},
+    {&Prog::AddBtn, 6, 3},
+    {&Prog::CancelBtn, 11, 3},
+    {&Prog::ExitBtn, 12, 3},
 };
 
-const TQORCharKey ProgCharKeys[] = {
-    {'A', "ABtn"},    {'B', "BBtn"},   {'C', "CBtn"},    {'D', "DBtn"},   {'E', "EBtn"},
-    {'F', "FBtn"},    {'%', "ModBtn"}, {'&', "ANDBtn"},  {'|', "ORBtn"},  {'^', "XORBtn"},
-    {'#', "NANDBtn"}, {'?', "NORBtn"}, {'!', "XNORBtn"}, {'~', "NotBtn"}, {'_', "NEGBtn"},
-    {'<', "SHLBtn"},  {'>', "SHRBtn"}, {'{', "ROLBtn"},  {'}', "RORBtn"},
+const TQORCharKey<Prog> ProgCharKeys[] = {
+    {'A', &Prog::ABtn},    {'B', &Prog::BBtn},   {'C', &Prog::CBtn},    {'D', &Prog::DBtn},
+    {'E', &Prog::EBtn},    {'F', &Prog::FBtn},   {'%', &Prog::ModBtn},  {'&', &Prog::ANDBtn},
+    {'|', &Prog::ORBtn},   {'^', &Prog::XORBtn}, {'#', &Prog::NANDBtn}, {'?', &Prog::NORBtn},
+    {'!', &Prog::XNORBtn}, {'~', &Prog::NotBtn}, {'_', &Prog::NEGBtn},  {'<', &Prog::SHLBtn},
+    {'>', &Prog::SHRBtn},  {'{', &Prog::ROLBtn}, {'}', &Prog::RORBtn},
 };
 
 // Digits each base takes, indexed by TQORBaseDisplay (binary, decimal, hexadecimal, octal).
@@ -171,8 +174,9 @@ TQORProgCalcForm::TQORProgCalcForm(QWidget* parent)
 {
     engineObject_->setObjectName(QStringLiteral("EngineObject"));
     SetHelpContext(QORProgCalcHelpContext);
-    AddKeys<TQORCalcFormBase, IQORProgCalcEngine>(QORCommonKeys<IQORProgCalcEngine>, engine_);
-    AddKeys<TQORProgCalcForm, IQORProgCalcEngine>(ProgKeys, engine_);
+    AddCommonKeys(engine_);
+    AddKeys(*this, ProgKeys, engine_);
+    AddCharKeys(*this, ProgCharKeys);
 
     BaseCombo = new TQORBaseComboBox(this);
     BaseCombo->setObjectName(QStringLiteral("BaseCombo"));
@@ -189,7 +193,7 @@ TQORProgCalcForm::TQORProgCalcForm(QWidget* parent)
     ApplyDispFont(ToQString(QORCalcDispFont));
     UpdateLanguage();
 
-    PlaceKeys(ProgPlaces, ProgGeometry.Rows);
+    PlaceKeys(*this, ProgPlaces, ProgGeometry.Rows);
     const int keysWidth = ProgGeometry.Columns * ProgGeometry.KeyWidth;
     const int keysLeft = (ClientWidth - keysWidth) / 2;
     // The panels are as tall as the fixed size allows: a 64-bit binary value is shown on two
@@ -242,11 +246,6 @@ void TQORProgCalcForm::UpdateLanguage()
     BaseCombo->setAccessibleDescription(ToQString(rsBaseHint()));
     BitsCombo->setAccessibleName(ToQString(rsBitsAccName()));
     BitsCombo->setAccessibleDescription(ToQString(rsBitsHint()));
-}
-
-std::vector<std::span<const TQORCharKey>> TQORProgCalcForm::CharKeys() const
-{
-    return {ProgCharKeys};
 }
 
 void TQORProgCalcForm::EnableDigits()

@@ -59,7 +59,6 @@ public:
     bool ProgrammersKeys() const override { return true; }
 
 protected:
-    std::vector<std::span<const TQORCharKey>> CharKeys() const override;
     void PasteText(const std::string& text) override { engine_.InputString(text); }
 
 private:

@@ -25,40 +25,46 @@ const TSciKey SciKeys[] = {
      [](TQORCalcEngine& e) { e.DoHyp(); }},
 };
 
-const TQORKeyPlace SciPlaces[] = {
-    {"RadBtn", 0, 0},         {"InvBtn", 1, 0},
-    {"HypBtn", 2, 0},         {"SinBtn", 3, 0},
-    {"CosBtn", 4, 0},         {"TanBtn", 5, 0},
-    {"PiBtn", 6, 0},          {"LogBtn", 0, 1},
-    {"LNBtn", 1, 1},          {"Lg2btn", 2, 1},
-    {"ExpBtn", 3, 1},         {"PowerBtn", 4, 1},
-    {"SquareBtn", 5, 1},      {"SqRootBtn", 6, 1},
-    {"MemoryClearBtn", 0, 2}, {"MemoryRecallBtn", 1, 2},
-    {"MemoryAddBtn", 2, 2},   {"MemorySubtractBtn", 3, 2},
-    {"AllClearBtn", 4, 2},    {"ClearBtn", 5, 2},
-    {"BackSpaceBtn", 6, 2},   {"SevenBtn", 0, 3},
-    {"EightBtn", 1, 3},       {"NineBtn", 2, 3},
-    {"LeftBracketBtn", 3, 3}, {"RightBracketBtn", 4, 3},
-    {"InvertBtn", 5, 3},      {"EBtn", 6, 3},
-    {"FourBtn", 0, 4},        {"FiveBtn", 1, 4},
-    {"SixBtn", 2, 4},         {"MultiplyBtn", 3, 4},
-    {"DivideBtn", 4, 4},      {"ChangeSignBtn", 5, 4},
-    {"PercentBtn", 6, 4},     {"OneBtn", 0, 5},
-    {"TwoBtn", 1, 5},         {"ThreeBtn", 2, 5},
-    {"AddBtn", 3, 5},         {"SubtractBtn", 4, 5},
-    {"CopyBtn", 5, 5},        {"PasteBtn", 6, 5},
-    {"ZeroBtn", 0, 6},        {"PointBtn", 1, 6},
-    {"EqualsBtn", 2, 6, 3},   {"CancelBtn", 5, 6},
-    {"ExitBtn", 6, 6},
+using Sci = TQORSciCalcForm;
+
+const TQORKeyPlace<Sci> SciPlaces[] = {
+    {&Sci::RadBtn, 0, 0},         {&Sci::InvBtn, 1, 0},
+    {&Sci::HypBtn, 2, 0},         {&Sci::SinBtn, 3, 0},
+    {&Sci::CosBtn, 4, 0},         {&Sci::TanBtn, 5, 0},
+    {&Sci::PiBtn, 6, 0},          {&Sci::LogBtn, 0, 1},
+    {&Sci::LNBtn, 1, 1},          {&Sci::Lg2btn, 2, 1},
+    {&Sci::ExpBtn, 3, 1},         {&Sci::PowerBtn, 4, 1},
+    {&Sci::SquareBtn, 5, 1},      {&Sci::SqRootBtn, 6, 1},
+    {&Sci::MemoryClearBtn, 0, 2}, {&Sci::MemoryRecallBtn, 1, 2},
+    {&Sci::MemoryAddBtn, 2, 2},   {&Sci::MemorySubtractBtn, 3, 2},
+    {&Sci::AllClearBtn, 4, 2},    {&Sci::ClearBtn, 5, 2},
+    {&Sci::BackSpaceBtn, 6, 2},   {&Sci::SevenBtn, 0, 3},
+    {&Sci::EightBtn, 1, 3},       {&Sci::NineBtn, 2, 3},
+    {&Sci::LeftBracketBtn, 3, 3}, {&Sci::RightBracketBtn, 4, 3},
+    {&Sci::InvertBtn, 5, 3},      {&Sci::EBtn, 6, 3},
+    {&Sci::FourBtn, 0, 4},        {&Sci::FiveBtn, 1, 4},
+    {&Sci::SixBtn, 2, 4},         {&Sci::MultiplyBtn, 3, 4},
+    {&Sci::DivideBtn, 4, 4},      {&Sci::ChangeSignBtn, 5, 4},
+    {&Sci::PercentBtn, 6, 4},     {&Sci::OneBtn, 0, 5},
+    {&Sci::TwoBtn, 1, 5},         {&Sci::ThreeBtn, 2, 5},
+    {&Sci::AddBtn, 3, 5},         {&Sci::SubtractBtn, 4, 5},
+    {&Sci::CopyBtn, 5, 5},        {&Sci::PasteBtn, 6, 5},
+    {&Sci::ZeroBtn, 0, 6},        {&Sci::PointBtn, 1, 6},
+    {&Sci::EqualsBtn, 2, 6, 3},   {&Sci::CancelBtn, 5, 6},
+    {&Sci::ExitBtn, 6, 6},
 };
-constexpr int SpinRow = 7;
+constexpr int SpinRow = 7; // the decimal-places spin edit, two keys wide at the left
 
 // "E" starts the exponent; the other letters reach the function keys: Sine, cOsine, Tangent,
 // Log, Natural log, lG2, Hyp, inVerse, Degrees/radians.
-const TQORCharKey SciCharKeys[] = {
-    {'E', "ExpBtn"}, {'S', "SinBtn"}, {'O', "CosBtn"}, {'T', "TanBtn"}, {'L', "LogBtn"},
-    {'N', "LNBtn"},  {'G', "Lg2btn"}, {'H', "HypBtn"}, {'V', "InvBtn"}, {'D', "RadBtn"},
+const TQORCharKey<Sci> SciCharKeys[] = {
+    {'E', &Sci::ExpBtn}, {'S', &Sci::SinBtn}, {'O', &Sci::CosBtn}, {'T', &Sci::TanBtn},
+    {'L', &Sci::LogBtn}, {'N', &Sci::LNBtn},  {'G', &Sci::Lg2btn}, {'H', &Sci::HypBtn},
+    {'V', &Sci::InvBtn}, {'D', &Sci::RadBtn},
 };
+
+// The key the scientific form adds to the ones the toggles relabel.
+constexpr TQORToggleLabel Lg2Label {rsLg2Key, rsInvLog2Paper, false, -1, -1};
 
 const TQORStoreKey SciStoreKeys[] = {
     {"Radians", "Radians"},
@@ -83,7 +89,8 @@ const TQORStoreKey SciStoreKeys[] = {
 TQORSciCalcForm::TQORSciCalcForm(QWidget* parent) : TQORFloatCalcForm(parent, SciGeometry)
 {
     SetHelpContext(QORSciCalcHelpContext);
-    AddKeys<TQORSciCalcForm, TQORCalcEngine>(SciKeys, GetCalcEngine());
+    AddKeys(*this, SciKeys, GetCalcEngine());
+    AddCharKeys(*this, SciCharKeys);
     HypBtn->setCheckable(true);
     connect(HypBtn, &QToolButton::clicked, this, [this] { ShowToggles(); });
     UpdateLanguage();
@@ -94,15 +101,15 @@ TQORSciCalcForm::TQORSciCalcForm(QWidget* parent) : TQORFloatCalcForm(parent, Sc
 
 void TQORSciCalcForm::RedrawCalc()
 {
-    PlaceKeys(SciPlaces, SciGeometry.Rows);
+    PlaceKeys(*this, SciPlaces, SciGeometry.Rows, {{DPSpin, 0, SpinRow, 2}});
     LayoutPanels(SciGeometry.Rows, SciExtraHeight);
-    DPSpin->setGeometry(0, SpinRow * SciGeometry.KeyHeight, 2 * SciGeometry.KeyWidth,
-                        SciGeometry.KeyHeight);
 }
 
-std::vector<std::span<const TQORCharKey>> TQORSciCalcForm::CharKeys() const
+void TQORSciCalcForm::ShowToggles()
 {
-    return {FloatChars(), SciCharKeys};
+    TQORFloatCalcForm::ShowToggles();
+    HypBtn->setChecked(GetCalcEngine().GetIsHyp());
+    ShowToggle(Lg2btn, Lg2Label);
 }
 
 // ---- Component -------------------------------------------------------------------------------

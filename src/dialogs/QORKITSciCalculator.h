@@ -24,9 +24,8 @@ public:
 
     // Lays the keys and panels out.
     void RedrawCalc();
-
-protected:
-    std::vector<std::span<const TQORCharKey>> CharKeys() const override;
+    // Also shows the Hyp toggle and relabels the log-to-base-2 key.
+    void ShowToggles() override;
 };
 
 class QORKIT_WIDGETS_EXPORT TQORSciCalculator

@@ -1,6 +1,6 @@
 // The calculator dialogs as Qt dialogs: children of the window that opens them and centred on
-// it, retranslated while open, followed through their engine objects by any number of
-// listeners, and with key tables whose every name is a key of the form.
+// it, retranslated while open, and followed through their engine objects by any number of
+// listeners.
 #include "CalcDialogTest.h"
 #include "QORKITCalculator.h"
 #include "QORKITEngineObjects.h"
@@ -11,9 +11,6 @@
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTranslator>
-
-#include <functional>
-#include <memory>
 
 namespace qorkit {
 namespace {
@@ -39,57 +36,6 @@ protected:
     }
     QWidget host_;
 };
-
-struct FormRow {
-    const char* Name;
-    std::function<std::unique_ptr<TQORCalcFormBase>()> Make;
-};
-
-const FormRow FormRows[] = {
-    {"Standard", [] { return std::make_unique<TQORCalcForm>(); }},
-    {"Small",
-     [] {
-         auto form = std::make_unique<TQORCalcForm>();
-         form->SetHideFnBtns(true);
-         return form;
-     }},
-    {"Scientific", [] { return std::make_unique<TQORSciCalcForm>(); }},
-    {"Programmers", [] { return std::make_unique<TQORProgCalcForm>(); }},
-};
-
-class KeyTableTest : public CalcDialogTest, public ::testing::WithParamInterface<FormRow> { };
-
-TEST_P(KeyTableTest, EveryNameInTheKeyTablesIsAKeyOfTheForm)
-{
-    const auto form = GetParam().Make();
-    EXPECT_TRUE(form->UnknownKeyNames().isEmpty())
-        << form->UnknownKeyNames().join(QLatin1Char(' ')).toStdString();
-}
-
-INSTANTIATE_TEST_SUITE_P(Forms, KeyTableTest, ::testing::ValuesIn(FormRows),
-                         test::RowName<FormRow>);
-
-// A form whose character table names a key it does not have.
-class MisspelledForm : public TQORCalcForm {
-protected:
-    std::vector<std::span<const TQORCharKey>> CharKeys() const override
-    {
-        static const TQORCharKey bad[] = {{'Q', "SqrtBtn"}};
-        auto tables = TQORCalcForm::CharKeys();
-        tables.push_back(bad);
-        return tables;
-    }
-};
-
-TEST_F(CalcDialogTest, AMisspelledKeyNameIsReported)
-{
-#ifdef QT_NO_DEBUG
-    MisspelledForm form;
-    EXPECT_EQ(form.UnknownKeyNames(), QStringList {QStringLiteral("SqrtBtn")});
-#else
-    GTEST_SKIP() << "debug builds assert on the unknown name instead";
-#endif
-}
 
 TEST_F(QtDialogTest, FreeFunctionOpensAsChildOfItsParentCentredOnIt)
 {

@@ -1,0 +1,174 @@
+// The calculator dialogs' key grid: every shown key (and the decimal-places spin edit) fills a
+// cell of its own at the key size of the form, with nothing between the cells; the grid is
+// mirrored when the dialog reads right to left; long translated captions move and resize no
+// key.
+#include "CalcDialogTest.h"
+#include "QORKITCalculator.h"
+#include "QORKITProgCalculator.h"
+#include "QORKITSciCalculator.h"
+#include "QORKITTranslation.h"
+
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QTranslator>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <set>
+#include <tuple>
+
+namespace qorkit {
+namespace {
+
+using test::CalcDialogTest;
+
+struct FormRow {
+    const char* Name;
+    std::function<std::unique_ptr<TQORCalcFormBase>()> Make;
+    QSize Key; // one cell of the grid
+    int Columns;
+};
+
+const FormRow FormRows[] = {
+    {"Standard", [] { return std::make_unique<TQORCalcForm>(); }, QSize(30, 22), 6},
+    {"Small",
+     [] {
+         auto form = std::make_unique<TQORCalcForm>();
+         form->SetHideFnBtns(true);
+         return form;
+     },
+     QSize(30, 22), 6},
+    {"Scientific", [] { return std::make_unique<TQORSciCalcForm>(); }, QSize(30, 22), 7},
+    {"Programmers", [] { return std::make_unique<TQORProgCalcForm>(); }, QSize(31, 22), 13},
+};
+
+// Where each shown control of the key panel stands, by name, in the panel.
+std::map<QString, QRect> PanelPlaces(const TQORCalcFormBase& form)
+{
+    std::map<QString, QRect> places;
+    for (auto* widget : form.KeyPanel->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        if (!widget->isHidden())
+            places[widget->objectName()] = widget->geometry();
+    }
+    return places;
+}
+
+// Where each shown child of the form stands, by name, in the form.
+std::map<QString, QRect> FormPlaces(const TQORCalcFormBase& form)
+{
+    std::map<QString, QRect> places;
+    for (auto* widget : form.findChildren<QWidget*>()) {
+        if (!widget->isHidden() && !widget->objectName().isEmpty())
+            places[widget->objectName()]
+                = QRect(widget->mapTo(&form, QPoint(0, 0)), widget->size());
+    }
+    return places;
+}
+
+class KeyGridTest : public CalcDialogTest, public ::testing::WithParamInterface<FormRow> { };
+
+TEST_P(KeyGridTest, EveryShownKeyFillsACellOfItsOwn)
+{
+    const auto form = GetParam().Make();
+    const QSize key = GetParam().Key;
+    auto* grid = qobject_cast<QGridLayout*>(form->KeyPanel->layout());
+    ASSERT_NE(grid, nullptr);
+    std::set<std::pair<int, int>> taken;
+    int rows = 0;
+    for (auto* widget : form->KeyPanel->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        const std::string name = widget->objectName().toStdString();
+        const int index = grid->indexOf(widget);
+        if (widget->isHidden()) {
+            EXPECT_LT(index, 0) << name << " is hidden but keeps a cell";
+            continue;
+        }
+        ASSERT_GE(index, 0) << name << " is shown outside the grid";
+        int row = 0;
+        int col = 0;
+        int rowSpan = 0;
+        int colSpan = 0;
+        grid->getItemPosition(index, &row, &col, &rowSpan, &colSpan);
+        EXPECT_EQ(rowSpan, 1) << name;
+        EXPECT_EQ(widget->geometry(),
+                  QRect(col * key.width(), row * key.height(), colSpan * key.width(), key.height()))
+            << name << " at column " << col << ", row " << row;
+        for (int c = col; c < col + colSpan; ++c)
+            EXPECT_TRUE(taken.insert({row, c}).second) << name << " shares a cell";
+        rows = std::max(rows, row + 1);
+    }
+    EXPECT_EQ(form->KeyPanel->size(), QSize(GetParam().Columns * key.width(), rows * key.height()));
+}
+
+TEST_P(KeyGridTest, RightToLeftMirrorsTheKeysInsideThePanel)
+{
+    const auto ltr = GetParam().Make();
+    const auto leftToRight = PanelPlaces(*ltr);
+    const int width = ltr->KeyPanel->width();
+    const auto expectMirrored = [&](const TQORCalcFormBase& form, const char* how) {
+        const auto rightToLeft = PanelPlaces(form);
+        ASSERT_EQ(rightToLeft.size(), leftToRight.size()) << how;
+        EXPECT_EQ(form.KeyPanel->width(), width) << how;
+        for (const auto& [name, place] : leftToRight) {
+            const QRect mirrored(width - place.x() - place.width(), place.y(), place.width(),
+                                 place.height());
+            EXPECT_EQ(rightToLeft.at(name), mirrored) << name.toStdString() << ", " << how;
+        }
+    };
+
+    // The application reads right to left before the dialog is made ...
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    const auto rtl = GetParam().Make();
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    expectMirrored(*rtl, "made right to left");
+
+    // ... or the open dialog is turned.
+    ltr->show();
+    ltr->setLayoutDirection(Qt::RightToLeft);
+    QCoreApplication::processEvents();
+    expectMirrored(*ltr, "turned while shown");
+}
+
+// Gives every text of the calculator a long translation, longer than any key can show.
+class LongTranslator : public QTranslator {
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char* context, const char* source, const char* = nullptr,
+                      int = -1) const override
+    {
+        if (qstrncmp(context, "QORKIT_RS_", 10) != 0)
+            return {};
+        return QString::fromUtf8(source) + QStringLiteral(" – eine sehr lange Übersetzung");
+    }
+};
+
+TEST_P(KeyGridTest, LongTranslatedCaptionsMoveNoKey)
+{
+    InstallQtTranslationHook();
+    const auto form = GetParam().Make();
+    form->show();
+    const auto before = FormPlaces(*form);
+    const QSize size = form->size();
+
+    LongTranslator translator;
+    ASSERT_TRUE(QCoreApplication::installTranslator(&translator));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
+    // A host may also set a caption of its own on a key, without any fitting.
+    form->SevenBtn->setText(QStringLiteral("sieben und noch viel mehr"));
+    QCoreApplication::processEvents();
+    const auto translated = FormPlaces(*form);
+    const QString clear = form->MemoryClearBtn->text();
+    QCoreApplication::removeTranslator(&translator);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
+
+    ASSERT_TRUE(clear.endsWith(QStringLiteral("Übersetzung"))) << clear.toStdString();
+    EXPECT_EQ(form->size(), size);
+    ASSERT_EQ(translated.size(), before.size());
+    for (const auto& [name, place] : before)
+        EXPECT_EQ(translated.at(name), place) << name.toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(Forms, KeyGridTest, ::testing::ValuesIn(FormRows), test::RowName<FormRow>);
+
+} // namespace
+} // namespace qorkit
