@@ -40,8 +40,8 @@ TEST_P(QuietTable, SameValueAndErrorWithoutDisplayOrTape)
 INSTANTIATE_TEST_SUITE_P(Keys, QuietTable,
                          ::testing::Values(QuietRow {"Precedence", "1 2 3 4 . 5 + 3 * 4 ="},
                                            QuietRow {"Brackets", "2 * ( 3 + 4 ) - 1 ="},
-                                           QuietRow {"Memory", "1 2 3 4 5 6 7 m+ 2 * mr ="},
-                                           QuietRow {"Functions", "2 sqrt + 9 ln ="},
+                                           QuietRow {"Memory", "1 2 3 4 5 6 7 [m+] 2 * [mr] ="},
+                                           QuietRow {"Functions", "2 [sqrt] + 9 [ln] ="},
                                            QuietRow {"DivisionByZero", "5 / 0 ="},
                                            QuietRow {"ErrorThenRecovery", "5 / 0 = 7 + 1 ="}),
                          RowName<QuietRow>);

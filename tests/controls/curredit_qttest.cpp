@@ -5,7 +5,6 @@
 #include "QORKITSettings.h"
 #include "QORKIT_RS_Calc.h"
 #include "QorkitTestSupport.h"
-#include "QtKeyDriver.h"
 
 #include <QLineEdit>
 #include <QSignalSpy>
@@ -31,7 +30,9 @@ protected:
         window_->resize(300, 80);
         other_ = new QLineEdit(window_.get());
         other_->setGeometry(10, 45, 100, 22);
-        ASSERT_TRUE(test::ShowActive(*window_));
+        window_->show();
+        window_->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
         Use(new TQORBaseCurrEdit(window_.get()));
     }
     void Use(TQORBaseCurrEdit* edit)
@@ -54,7 +55,7 @@ protected:
             else if (c == QLatin1Char('#'))
                 QTest::keyClick(edit_, Qt::Key_Delete);
             else
-                test::TypeKeys(edit_, QString(c));
+                QTest::keyClicks(edit_, QString(c));
         }
     }
     void Leave() { other_->setFocus(Qt::TabFocusReason); }

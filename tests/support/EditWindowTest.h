@@ -2,7 +2,6 @@
 // plain line edit in an active window, the focus starting on the line edit.
 #pragma once
 
-#include "../widgets/QtKeyDriver.h"
 #include "QorkitTestSupport.h"
 
 #include <QLineEdit>
@@ -21,7 +20,9 @@ protected:
         other_ = new QLineEdit(&window_);
         layout->addWidget(edit_, 0, Qt::AlignLeft);
         layout->addWidget(other_);
-        ASSERT_TRUE(ShowActive(window_));
+        window_.show();
+        window_.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
         other_->setFocus(Qt::TabFocusReason);
     }
     // Tabs into `target`, replaces its text with `keys` and tabs out to the line edit.
