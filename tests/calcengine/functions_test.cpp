@@ -22,8 +22,7 @@ struct FunctionCase {
 
 void PrintTo(const FunctionCase& c, std::ostream* os) { *os << c.Keys; }
 
-class FunctionTable : public GlobalStateTest,
-                      public ::testing::WithParamInterface<FunctionCase> { };
+class FunctionTable : public CalcEngineTest, public ::testing::WithParamInterface<FunctionCase> { };
 
 TEST_P(FunctionTable, GivesTheIndependentValue)
 {
@@ -98,7 +97,7 @@ INSTANTIATE_TEST_SUITE_P(Functions, FunctionTable, ::testing::Values(
     RowName<FunctionCase>);
 // clang-format on
 
-TEST_F(GlobalStateTest, FunctionResultGoesOnTopOfTheOldOperand)
+TEST_F(CalcEngineTest, FunctionResultGoesOnTopOfTheOldOperand)
 {
     CalcKeyDriver calc;
     calc.Press("4 [sqrt] [sqrt]");
@@ -109,7 +108,7 @@ TEST_F(GlobalStateTest, FunctionResultGoesOnTopOfTheOldOperand)
     EXPECT_EQ(calc.Display(), "1.4142");
 }
 
-TEST_F(GlobalStateTest, TapeLabelsFollowTheToggles)
+TEST_F(CalcEngineTest, TapeLabelsFollowTheToggles)
 {
     CalcKeyDriver calc;
     calc.Press("1 [inv] [hyp] [sin] [hyp] [cos] [inv] [tan] [inv] [ln] 2 [round2] 3 [round]");
@@ -120,7 +119,7 @@ TEST_F(GlobalStateTest, TapeLabelsFollowTheToggles)
     EXPECT_EQ(calc.Engine().GetLastHistoryEntry(), "2^x");
 }
 
-TEST_F(GlobalStateTest, ToggleEventsFireOnChangeOnly)
+TEST_F(CalcEngineTest, ToggleEventsFireOnChangeOnly)
 {
     CalcKeyDriver calc;
     calc.Press("[inv] [inv]");
@@ -133,7 +132,7 @@ TEST_F(GlobalStateTest, ToggleEventsFireOnChangeOnly)
     EXPECT_EQ(calc.Count("toggles-clear"), 1);
 }
 
-TEST_F(GlobalStateTest, AngleModeCycle)
+TEST_F(CalcEngineTest, AngleModeCycle)
 {
     CalcKeyDriver calc;
     calc.Press("[drg]");
@@ -156,7 +155,7 @@ TEST_F(GlobalStateTest, AngleModeCycle)
     EXPECT_EQ(calc.Engine().GetHistoryLength(), 4) << "SetAngleMode writes no tape line";
 }
 
-TEST_F(GlobalStateTest, RandomValuesLieInTheUnitInterval)
+TEST_F(CalcEngineTest, RandomValuesLieInTheUnitInterval)
 {
     CalcKeyDriver calc;
     for (int i = 0; i < 20; ++i) {

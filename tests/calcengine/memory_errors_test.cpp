@@ -12,7 +12,7 @@
 namespace qorkit::test {
 namespace {
 
-TEST_F(GlobalStateTest, MemoryKeys)
+TEST_F(CalcEngineTest, MemoryKeys)
 {
     CalcKeyDriver calc;
     calc.Press("5 [m+] 3 [m+] [mr]");
@@ -25,7 +25,7 @@ TEST_F(GlobalStateTest, MemoryKeys)
     EXPECT_EQ(calc.Engine().GetMemoryValue(), 0);
 }
 
-TEST_F(GlobalStateTest, MemoryAddCompletesThePendingCalculation)
+TEST_F(CalcEngineTest, MemoryAddCompletesThePendingCalculation)
 {
     CalcKeyDriver calc;
     calc.Press("2 + 3 [m+]");
@@ -34,7 +34,7 @@ TEST_F(GlobalStateTest, MemoryAddCompletesThePendingCalculation)
     EXPECT_EQ(calc.Tape(), "2.0000 | + | 3.0000 | M+");
 }
 
-TEST_F(GlobalStateTest, MemoryEventsAndHistoryLines)
+TEST_F(CalcEngineTest, MemoryEventsAndHistoryLines)
 {
     CalcKeyDriver calc;
     calc.Engine().SetMemoryHistory(true);
@@ -49,7 +49,7 @@ TEST_F(GlobalStateTest, MemoryEventsAndHistoryLines)
     EXPECT_EQ(calc.Engine().GetLastHistoryEntry(), "[" + rsMemoryHistoryPrefix() + "5.0000 ]");
 }
 
-TEST_F(GlobalStateTest, MemorySurvivesClearsAndErrors)
+TEST_F(CalcEngineTest, MemorySurvivesClearsAndErrors)
 {
     CalcKeyDriver calc;
     calc.Press("7 [m+] [ac] 9 c 1 / 0 =");
@@ -57,7 +57,7 @@ TEST_F(GlobalStateTest, MemorySurvivesClearsAndErrors)
     EXPECT_EQ(calc.Engine().GetMemoryValue(), 7);
 }
 
-TEST_F(GlobalStateTest, TapeCursor)
+TEST_F(CalcEngineTest, TapeCursor)
 {
     TQORCalcEngine engine;
     EXPECT_EQ(engine.GetNextHistoryEntry(), "");
@@ -90,7 +90,7 @@ struct TapePositionCase {
     std::int32_t After;
 };
 
-class TapePosition : public GlobalStateTest,
+class TapePosition : public CalcEngineTest,
                      public ::testing::WithParamInterface<TapePositionCase> { };
 
 TEST_P(TapePosition, ReadsSafely)
@@ -122,7 +122,7 @@ INSTANTIATE_TEST_SUITE_P(Positions, TapePosition,
                                                              0}),
                          RowName<TapePositionCase>);
 
-TEST_F(GlobalStateTest, SameLineKeepsOnlyTheLastPendingOperator)
+TEST_F(CalcEngineTest, SameLineKeepsOnlyTheLastPendingOperator)
 {
     CalcKeyDriver calc;
     auto& engine = calc.Engine();
@@ -147,7 +147,7 @@ struct ErrorCase {
 
 void PrintTo(const ErrorCase& c, std::ostream* os) { *os << c.Keys; }
 
-class ErrorTable : public GlobalStateTest, public ::testing::WithParamInterface<ErrorCase> { };
+class ErrorTable : public CalcEngineTest, public ::testing::WithParamInterface<ErrorCase> { };
 
 TEST_P(ErrorTable, EndsInTheErrorStateAndRecovers)
 {
@@ -199,7 +199,7 @@ INSTANTIATE_TEST_SUITE_P(Errors, ErrorTable, ::testing::Values(
     RowName<ErrorCase>);
 // clang-format on
 
-TEST_F(GlobalStateTest, PrefixFunctionWithoutOperandIsAnInvalidEquation)
+TEST_F(CalcEngineTest, PrefixFunctionWithoutOperandIsAnInvalidEquation)
 {
     CalcKeyDriver calc;
     calc.Engine().SetPrefixFunctions(true);
@@ -208,7 +208,7 @@ TEST_F(GlobalStateTest, PrefixFunctionWithoutOperandIsAnInvalidEquation)
     EXPECT_EQ(calc.Engine().GetLastError(), rsInvalidEquation());
 }
 
-TEST_F(GlobalStateTest, NonFiniteInputNeverReachesTheDisplay)
+TEST_F(CalcEngineTest, NonFiniteInputNeverReachesTheDisplay)
 {
     for (const long double bad : {std::numeric_limits<long double>::quiet_NaN(),
                                   std::numeric_limits<long double>::infinity()}) {
@@ -224,7 +224,7 @@ TEST_F(GlobalStateTest, NonFiniteInputNeverReachesTheDisplay)
     }
 }
 
-TEST_F(GlobalStateTest, AllClearEmptiesEverythingButMemory)
+TEST_F(CalcEngineTest, AllClearEmptiesEverythingButMemory)
 {
     CalcKeyDriver calc;
     calc.Press("4 [m+] 2 + ( 3 [inv]");

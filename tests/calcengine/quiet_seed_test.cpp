@@ -18,7 +18,7 @@ struct QuietRow {
     std::string_view keys;
 };
 
-class QuietTable : public GlobalStateTest, public ::testing::WithParamInterface<QuietRow> { };
+class QuietTable : public CalcEngineTest, public ::testing::WithParamInterface<QuietRow> { };
 
 TEST_P(QuietTable, SameValueAndErrorWithoutDisplayOrTape)
 {
@@ -46,7 +46,7 @@ INSTANTIATE_TEST_SUITE_P(Keys, QuietTable,
                                            QuietRow {"ErrorThenRecovery", "5 / 0 = 7 + 1 ="}),
                          RowName<QuietRow>);
 
-TEST_F(GlobalStateTest, EveryNewEngineSeedsTheGeneratorWithTheDay)
+TEST_F(CalcEngineTest, EveryNewEngineSeedsTheGeneratorWithTheDay)
 {
     TQORCalcEngine first;
     const Extended a = RandomExtended();

@@ -55,8 +55,7 @@ struct TapeRow {
     bool sameLine = false;
 };
 
-class TapeReadTest : public test::GlobalStateTest,
-                     public ::testing::WithParamInterface<TapeRow> { };
+class TapeReadTest : public test::CalcEngineTest, public ::testing::WithParamInterface<TapeRow> { };
 
 TEST_P(TapeReadTest, RowsTakeTheTapeApart)
 {
@@ -104,7 +103,7 @@ struct ProgTapeRow {
     std::vector<long long> numbers; // the numbers of the lines that have one, in order
 };
 
-class ProgTapeTest : public test::GlobalStateTest,
+class ProgTapeTest : public test::CalcEngineTest,
                      public ::testing::WithParamInterface<ProgTapeRow> { };
 
 TEST_P(ProgTapeTest, DigitsAreReadInTheBaseOfTheMoment)
@@ -183,7 +182,7 @@ std::vector<std::vector<std::string>> ParseCsv(const std::string& csv, char sepa
     return records;
 }
 
-class TapeExportTest : public test::GlobalStateTest, public ::testing::WithParamInterface<bool> { };
+class TapeExportTest : public test::CalcEngineTest, public ::testing::WithParamInterface<bool> { };
 
 // The CSV read back gives every row's kind, operator, text and number, in the current format
 // settings: "," decimals switch the field separator to ";" and the numbers to "," decimals.

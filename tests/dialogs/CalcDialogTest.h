@@ -18,7 +18,9 @@
 
 namespace qorkit::test {
 
-class CalcDialogTest : public GlobalStateTest {
+// The calculators seed the random generator, keep their settings (memory, angle mode, display
+// font) and may be pointed at an INI file.
+class CalcDialogTest : public GlobalStateTestOf<Area::Random | Area::Calculator | Area::Store> {
 protected:
     void SetUp() override
     {

@@ -19,7 +19,7 @@
 namespace qorkit {
 namespace {
 
-class ExprEditTest : public test::EditWindowTest<TQORExpressEdit> {
+class ExprEditTest : public test::EditWindowTest<TQORExpressEdit, test::Area::Random> {
 protected:
     void SetUp() override
     {

@@ -17,6 +17,9 @@ namespace qorkit::test {
 ::testing::AssertionResult NearExtended(long double actual, long double expected,
                                         long double tolerance = 4e-18L);
 
+// Fixture of tests that run calculator engines: a new engine seeds the random generator.
+using CalcEngineTest = GlobalStateTestOf<Area::Random>;
+
 // An engine with every event assigned to a recorder. Keys are written in the grammar of
 // KeyGrammar.h: "12.5 + [sin] =", "2+3*4=".
 class CalcKeyDriver {

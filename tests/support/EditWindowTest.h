@@ -1,5 +1,6 @@
 // A fixture for tests that drive one edit control with real focus changes: the control and a
-// plain line edit in an active window, the focus starting on the line edit.
+// plain line edit in an active window, the focus starting on the line edit. `Touched` names the
+// process-wide areas the tests change.
 #pragma once
 
 #include "QorkitTestSupport.h"
@@ -10,11 +11,12 @@
 
 namespace qorkit::test {
 
-template<class Control> class EditWindowTest : public GlobalStateTest {
+template<class Control, Area Touched = Area::None>
+class EditWindowTest : public GlobalStateTestOf<Touched> {
 protected:
     void SetUp() override
     {
-        GlobalStateTest::SetUp();
+        GlobalStateTestOf<Touched>::SetUp();
         auto* layout = new QVBoxLayout(&window_);
         edit_ = new Control(&window_);
         other_ = new QLineEdit(&window_);
