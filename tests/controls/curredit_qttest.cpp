@@ -54,8 +54,11 @@ protected:
                 QTest::keyClick(edit_, Qt::Key_Left);
             else if (c == QLatin1Char('#'))
                 QTest::keyClick(edit_, Qt::Key_Delete);
+            else if (c.unicode() > 0x7f) // no key of its own: the keyboard sends the text alone
+                QTest::sendKeyEvent(QTest::Click, edit_, Qt::Key_unknown, QString(c),
+                                    Qt::NoModifier);
             else
-                QTest::keyClicks(edit_, QString(c));
+                QTest::keyClick(edit_, c.toLatin1());
         }
     }
     void Leave() { other_->setFocus(Qt::TabFocusReason); }
