@@ -49,7 +49,7 @@ TEST_F(ResourceTextTest, FormatMessageReplacesThePlaceholder)
     EXPECT_EQ(FormatMessage("no placeholder", "x"), "no placeholder");
 }
 
-class GlobalSettingsTest : public test::GlobalStateTest { };
+class GlobalSettingsTest : public test::GlobalStateTestOf<test::Area::Random> { };
 
 TEST_F(GlobalSettingsTest, ResetRestoresEveryVariableAndTheRandomSequence)
 {
@@ -81,6 +81,52 @@ TEST_F(GlobalSettingsTest, RandomValuesStayInTheUnitInterval)
         ASSERT_LT(r, 1.0L);
     }
 }
+
+// The after-test check of GlobalStateTest names the area a change belongs to, so a test that
+// leaves state behind without declaring it is caught.
+struct AreaRow {
+    const char* Name;
+    void (*Change)();
+    const char* Reported;
+};
+
+class AreaCheck : public ::testing::TestWithParam<AreaRow> {
+protected:
+    void TearDown() override { test::ResetAllGlobals(); }
+};
+
+TEST_P(AreaCheck, ReportsTheChangedAreaOnlyUntilReset)
+{
+    test::ResetAllGlobals();
+    EXPECT_EQ(test::ChangedAreas(), "");
+    GetParam().Change();
+    EXPECT_EQ(test::ChangedAreas(), GetParam().Reported);
+    EXPECT_EQ(test::ChangedAreas(test::Area::Format | test::Area::Calculator | test::Area::Store
+                                 | test::Area::Signs | test::Area::Random),
+              "");
+    test::ResetAllGlobals();
+    EXPECT_EQ(test::ChangedAreas(), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Areas, AreaCheck,
+    ::testing::Values(
+        AreaRow {"CurrencySymbol", [] { FormatSettings.CurrencyString.append("EUR"); },
+                 "Area::Format"},
+        AreaRow {"SecondSign", [] { FormatSettings.SecondSign.append("s"); }, "Area::Format"},
+        AreaRow {"DisplayFont", [] { QORCalcDispFont.append("Courier"); }, "Area::Calculator"},
+        AreaRow {"HelpContext", [] { QORProgCalcHelpContext = 7; }, "Area::Calculator"},
+        AreaRow {"IniSection", [] { QORIniSection.append("Calc"); }, "Area::Store"},
+        AreaRow {"EastNegative", [] { QOREastPositive = false; }, "Area::Signs"},
+        AreaRow {"NumberDrawn", [] { RandomExtended(); }, "Area::Random"},
+        AreaRow {"Reseeded", [] { RandomSeed(1); }, "Area::Random"},
+        AreaRow {"TwoAreas",
+                 [] {
+                     FormatSettings.DecimalSeparator = ',';
+                     QORNorthPositive = false;
+                 },
+                 "Area::Format, Area::Signs"}),
+    test::RowName<AreaRow>);
 
 } // namespace
 } // namespace qorkit

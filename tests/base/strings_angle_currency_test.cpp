@@ -164,6 +164,7 @@ TEST_F(GlobalStateTest, DmsTextReadsBackForEveryForm)
 
 TEST_F(GlobalStateTest, AngleMarksComeFromTheSettings)
 {
+    Touches(test::Area::Format);
     FormatSettings.DegreeSign = "d";
     FormatSettings.MinuteSign = "m";
     FormatSettings.SecondSign = "s";
@@ -188,7 +189,8 @@ struct CurrencyRow {
     const char* expected;
 };
 
-class CurrencyFormat : public GlobalStateTest, public testing::WithParamInterface<CurrencyRow> {
+class CurrencyFormat : public test::GlobalStateTestOf<test::Area::Format>,
+                       public testing::WithParamInterface<CurrencyRow> {
 protected:
     std::string Format()
     {
@@ -228,6 +230,7 @@ INSTANTIATE_TEST_SUITE_P(Strings, CurrencyFormat, testing::ValuesIn(kCurrencyRow
 
 TEST_F(GlobalStateTest, CurrencyTextReadsBackInEveryFormat)
 {
+    Touches(test::Area::Format);
     const std::int64_t amounts[] = {0, 12345678, -12345678, -1, 9999999999999};
     for (const char* symbol : {"$", "EUR", "\xE2\x82\xAC"}) {
         FormatSettings.CurrencyString = symbol;

@@ -134,7 +134,8 @@ Extended RandomValue(std::mt19937_64& random)
     return (bits >> 20) % 2 != 0 ? -v : v;
 }
 
-class StringsOracleTest : public GlobalStateTest, public ::testing::WithParamInterface<Style> {
+class StringsOracleTest : public test::GlobalStateTestOf<test::Area::Format>,
+                          public ::testing::WithParamInterface<Style> {
 protected:
     void SetUp() override
     {

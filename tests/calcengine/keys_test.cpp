@@ -1,8 +1,10 @@
 // Key sequences and the display and tape they must leave, by area.
 #include "CalcKeyDriver.h"
+#include "KeyGrammar.h"
 #include "QORKITCalcEngine.h"
 #include "QorkitTestSupport.h"
 
+#include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -23,7 +25,7 @@ struct KeyCase {
 
 void PrintTo(const KeyCase& c, std::ostream* os) { *os << c.Keys; }
 
-class KeyTable : public GlobalStateTest, public ::testing::WithParamInterface<KeyCase> { };
+class KeyTable : public CalcEngineTest, public ::testing::WithParamInterface<KeyCase> { };
 
 TEST_P(KeyTable, LeavesDisplayAndTape)
 {
@@ -60,16 +62,16 @@ INSTANTIATE_TEST_SUITE_P(Entry, KeyTable, ::testing::Values(
     KeyCase{"SeparatorOnEmptyEntryGivesZeroPoint", ". .", "0."},
     KeyCase{"SeparatorThenDigits", ". 2 5", "0.25"},
     KeyCase{"ThousandsKeyIsKept", "1 , 2 3 4", "1,234"},
-    KeyCase{"ChangeSignTwice", "1 2 +/- +/-", "12"},
-    KeyCase{"ChangeSign", "1 2 +/-", "-12"},
-    KeyCase{"ChangeSignOnZeroStartsNegativeEntry", "0 . 0 0 +/-", "-"},
-    KeyCase{"ChangeSignNegatesExponent", "1 ee 5 +/-", "1E-5"},
-    KeyCase{"ChangeSignOnEmptyExponent", "1 ee +/-", "1E-"},
-    KeyCase{"ExponentSignAfterE", "2 ee - 3 =", "0.0020"},
-    KeyCase{"ChangeSignOfResultPushesNegation", "2 + 3 = +/-", "-5.0000", "2.0000 | + | 3.0000 | = | 5.0000 | +/-"},
-    KeyCase{"Backspace", "1 2 3 bs", "12"},
-    KeyCase{"BackspaceToEmpty", "7 bs", ""},
-    KeyCase{"ResultCannotBeBackspaced", "1 2 + 3 = bs", "15.0000"},
+    KeyCase{"ChangeSignTwice", "1 2 [+/-] [+/-]", "12"},
+    KeyCase{"ChangeSign", "1 2 [+/-]", "-12"},
+    KeyCase{"ChangeSignOnZeroStartsNegativeEntry", "0 . 0 0 [+/-]", "-"},
+    KeyCase{"ChangeSignNegatesExponent", "1 [ee] 5 [+/-]", "1E-5"},
+    KeyCase{"ChangeSignOnEmptyExponent", "1 [ee] [+/-]", "1E-"},
+    KeyCase{"ExponentSignAfterE", "2 [ee] - 3 =", "0.0020"},
+    KeyCase{"ChangeSignOfResultPushesNegation", "2 + 3 = [+/-]", "-5.0000", "2.0000 | + | 3.0000 | = | 5.0000 | +/-"},
+    KeyCase{"Backspace", "1 2 3 [bs]", "12"},
+    KeyCase{"BackspaceToEmpty", "7 [bs]", ""},
+    KeyCase{"ResultCannotBeBackspaced", "1 2 + 3 = [bs]", "15.0000"},
     KeyCase{"DigitAfterEqualsStartsAfresh", "2 + 3 = 4 * 2 =", "8.0000"},
     KeyCase{"ClearKeepsPendingCalculation", "2 + 5 c 3 =", "5.0000"},
     KeyCase{"SciRangeKeepsFixedInside", "1 2 3 . 5 =", "123.5000", nullptr, SciWithRange},
@@ -83,14 +85,14 @@ INSTANTIATE_TEST_SUITE_P(Operators, KeyTable, ::testing::Values(
     KeyCase{"PrecedenceOff", "2 + 3 * 4 =", "20.0000", nullptr, NoPrecedence},
     KeyCase{"PowerIsLeftAssociative", "2 ^ 3 ^ 2 =", "64.0000"},
     KeyCase{"PowerBeforeMultiply", "2 * 3 ^ 2 =", "18.0000"},
-    KeyCase{"ModReducesBeforePower", "7 mod 4 ^ 2 =", "9.0000"},
+    KeyCase{"ModReducesBeforePower", "7 [mod] 4 ^ 2 =", "9.0000"},
     KeyCase{"ThreeLevels", "1 + 2 * 3 ^ 2 - 4 / 2 =", "17.0000"},
     KeyCase{"LeftToRightWithoutPrecedence", "1 + 2 * 3 ^ 2 =", "81.0000", nullptr, NoPrecedence},
-    KeyCase{"RootWithInv", "2 7 inv ^ 3 =", "3.0000", "27.0000 | x ^ 1/y | 3.0000 | = | 3.0000"},
-    KeyCase{"ModulusIsFloored", "- 7 mod 3 =", "2.0000", "-7.0000 | mod | 3.0000 | = | 2.0000"},
-    KeyCase{"RemainderIsTruncated", "- 7 rem 3 =", "-1.0000"},
-    KeyCase{"DivIsFloored", "- 7 div 2 =", "-4.0000"},
-    KeyCase{"IntDivIsTruncated", "- 7 intdiv 2 =", "-3.0000"},
+    KeyCase{"RootWithInv", "2 7 [inv] ^ 3 =", "3.0000", "27.0000 | x ^ 1/y | 3.0000 | = | 3.0000"},
+    KeyCase{"ModulusIsFloored", "- 7 [mod] 3 =", "2.0000", "-7.0000 | mod | 3.0000 | = | 2.0000"},
+    KeyCase{"RemainderIsTruncated", "- 7 [rem] 3 =", "-1.0000"},
+    KeyCase{"DivIsFloored", "- 7 [div] 2 =", "-4.0000"},
+    KeyCase{"IntDivIsTruncated", "- 7 [intdiv] 2 =", "-3.0000"},
     KeyCase{"MinusBeforeBracketNegatesIt", "- ( 2 + 3 ) =", "-5.0000"},
     KeyCase{"BracketsGroup", "2 * ( 3 + 4 ) =", "14.0000"},
     KeyCase{"UnmatchedRightBracketIsAccepted", "2 + 3 ) =", "5.0000"},
@@ -104,12 +106,12 @@ INSTANTIATE_TEST_SUITE_P(Operators, KeyTable, ::testing::Values(
     KeyCase{"EqualsOnFreshEngine", "=", "0", "= | 0"},
     KeyCase{"NoRepeatedOperation", "2 + 3 = =", "5.0000"},
     KeyCase{"OperatorAfterEqualsContinues", "2 + 3 = * 2 =", "10.0000"},
-    KeyCase{"LeftOverOperandsLastWins", "pi 2 =", "2.0000"},
+    KeyCase{"LeftOverOperandsLastWins", "[pi] 2 =", "2.0000"},
     KeyCase{"SameLineTape", "1 2 + 3 4 =", "46.0000", "12.0000 | + 34.0000 | = 46.0000", SameLine}),
     RowName<KeyCase>);
 // clang-format on
 
-TEST_F(GlobalStateTest, FreshEngineShowsZeroWithEmptyStacks)
+TEST_F(CalcEngineTest, FreshEngineShowsZeroWithEmptyStacks)
 {
     TQORCalcEngine engine;
     EXPECT_EQ(engine.GetDisplayStr(), "0");
@@ -120,7 +122,7 @@ TEST_F(GlobalStateTest, FreshEngineShowsZeroWithEmptyStacks)
     EXPECT_EQ(engine.GetHistoryLength(), 0);
 }
 
-TEST_F(GlobalStateTest, TypedEntryKeepsItsTypedForm)
+TEST_F(CalcEngineTest, TypedEntryKeepsItsTypedForm)
 {
     CalcKeyDriver calc;
     calc.Press("1 2 3 4");
@@ -130,7 +132,7 @@ TEST_F(GlobalStateTest, TypedEntryKeepsItsTypedForm)
     EXPECT_EQ(calc.Engine().GetOperandCount(), 0) << "a digit after = discards the stacks";
 }
 
-TEST_F(GlobalStateTest, CommaDecimalsAreReadAtEachKey)
+TEST_F(CalcEngineTest, CommaDecimalsAreReadAtEachKey)
 {
     CalcKeyDriver calc;
     {
@@ -145,7 +147,7 @@ TEST_F(GlobalStateTest, CommaDecimalsAreReadAtEachKey)
     EXPECT_EQ(calc.Display(), "1.5000");
 }
 
-TEST_F(GlobalStateTest, LongValuesAreCutToMaxDisplayLength)
+TEST_F(CalcEngineTest, LongValuesAreCutToMaxDisplayLength)
 {
     TQORCalcEngine engine;
     engine.InputValue(1e39L);
@@ -161,7 +163,7 @@ TEST_F(GlobalStateTest, LongValuesAreCutToMaxDisplayLength)
     EXPECT_EQ(engine.DisplayValue(123456.0L), "123,4");
 }
 
-TEST_F(GlobalStateTest, DecimalPlacesReformatAndNotifyOnlyOnChange)
+TEST_F(CalcEngineTest, DecimalPlacesReformatAndNotifyOnlyOnChange)
 {
     CalcKeyDriver calc;
     calc.Engine().InputValue(2.0L / 3.0L);
@@ -173,7 +175,7 @@ TEST_F(GlobalStateTest, DecimalPlacesReformatAndNotifyOnlyOnChange)
     EXPECT_EQ(calc.Count("decimals"), 1);
 }
 
-TEST_F(GlobalStateTest, PlainSettersNeitherReformatNorNotify)
+TEST_F(CalcEngineTest, PlainSettersNeitherReformatNorNotify)
 {
     CalcKeyDriver calc;
     calc.Press("1 2 3 4 =");
@@ -187,7 +189,7 @@ TEST_F(GlobalStateTest, PlainSettersNeitherReformatNorNotify)
     EXPECT_TRUE(calc.Events().empty());
 }
 
-TEST_F(GlobalStateTest, WholeOperandsAndDeepBrackets)
+TEST_F(CalcEngineTest, WholeOperandsAndDeepBrackets)
 {
     CalcKeyDriver calc;
     auto& e = calc.Engine();
@@ -204,12 +206,55 @@ TEST_F(GlobalStateTest, WholeOperandsAndDeepBrackets)
     EXPECT_EQ(calc.Display(), "31.0000");
 }
 
-TEST_F(GlobalStateTest, LakhGrouping)
+TEST_F(CalcEngineTest, LakhGrouping)
 {
     TQORCalcEngine engine;
     engine.SetLakhFormatting(true);
     engine.SetDecimalPlaces(0);
     EXPECT_EQ(engine.DisplayValue(12345678.0L), "1,23,45,678");
+}
+
+// The key strings of both engine drivers.
+struct GrammarRow {
+    const char* Name;
+    const char* Keys;
+    const char* Tokens; // each token as written: chars bare, names in brackets
+};
+
+class KeyGrammarTable : public ::testing::TestWithParam<GrammarRow> { };
+
+TEST_P(KeyGrammarTable, SplitsIntoKeys)
+{
+    std::string written;
+    for (const auto& key : SplitKeys(GetParam().Keys))
+        written += key.Bracketed ? "[" + key.Name + "]" : key.Name;
+    EXPECT_EQ(written, GetParam().Tokens);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Grammar, KeyGrammarTable,
+    ::testing::Values(GrammarRow {"CharactersAreKeys", "12.5+3=", "12.5+3="},
+                      GrammarRow {"BlanksAreIgnored", " 1 2  + 3 ", "12+3"},
+                      GrammarRow {"BracketsNameAKey", "4[sqrt][m+]", "4[sqrt][m+]"},
+                      GrammarRow {"BlanksInsideBracketsStay", "1[SHL 4]", "1[SHL 4]"},
+                      GrammarRow {"BracketCharactersInsideANameAreKept", "[(][1/x]", "[(][1/x]"},
+                      GrammarRow {"Empty", "", ""}),
+    RowName<GrammarRow>);
+
+class KeyGrammar : public CalcEngineTest { };
+
+TEST_F(KeyGrammar, UnclosedBracketFailsAndStops)
+{
+    std::vector<KeyToken> keys;
+    EXPECT_NONFATAL_FAILURE(keys = SplitKeys("1+[sin"), "unclosed [");
+    ASSERT_EQ(keys.size(), 2u);
+    EXPECT_EQ(keys[1].Name, "+");
+}
+
+TEST_F(KeyGrammar, UnknownKeysFailTheTest)
+{
+    EXPECT_NONFATAL_FAILURE(CalcKeyDriver().Press("1[sine]"), "unknown key 'sine'");
+    EXPECT_NONFATAL_FAILURE(CalcKeyDriver().Press("1s"), "unknown key 's'");
 }
 
 } // namespace

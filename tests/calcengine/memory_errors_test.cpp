@@ -12,52 +12,52 @@
 namespace qorkit::test {
 namespace {
 
-TEST_F(GlobalStateTest, MemoryKeys)
+TEST_F(CalcEngineTest, MemoryKeys)
 {
     CalcKeyDriver calc;
-    calc.Press("5 m+ 3 m+ mr");
+    calc.Press("5 [m+] 3 [m+] [mr]");
     EXPECT_EQ(calc.Display(), "8.0000");
     EXPECT_EQ(calc.Engine().GetMemoryValue(), 8);
-    calc.Press("2 m-");
+    calc.Press("2 [m-]");
     EXPECT_EQ(calc.Engine().GetMemoryContents(), "6.0000");
-    calc.Press("mc mr");
+    calc.Press("[mc] [mr]");
     EXPECT_EQ(calc.Display(), "0.0000");
     EXPECT_EQ(calc.Engine().GetMemoryValue(), 0);
 }
 
-TEST_F(GlobalStateTest, MemoryAddCompletesThePendingCalculation)
+TEST_F(CalcEngineTest, MemoryAddCompletesThePendingCalculation)
 {
     CalcKeyDriver calc;
-    calc.Press("2 + 3 m+");
+    calc.Press("2 + 3 [m+]");
     EXPECT_EQ(calc.Engine().GetMemoryValue(), 5);
     EXPECT_EQ(calc.Display(), "5.0000");
     EXPECT_EQ(calc.Tape(), "2.0000 | + | 3.0000 | M+");
 }
 
-TEST_F(GlobalStateTest, MemoryEventsAndHistoryLines)
+TEST_F(CalcEngineTest, MemoryEventsAndHistoryLines)
 {
     CalcKeyDriver calc;
     calc.Engine().SetMemoryHistory(true);
-    calc.Press("5 m+");
+    calc.Press("5 [m+]");
     EXPECT_EQ(calc.Tape(), "5.0000 | M+ | [" + rsMemoryHistoryPrefix() + "5.0000 ]");
     EXPECT_EQ(calc.Count("memory"), 1);
     calc.ClearEvents();
-    calc.Press("mr");
+    calc.Press("[mr]");
     EXPECT_EQ(calc.Count("memory"), 0) << "recall does not change the register";
     calc.Engine().SetMemory(2.5L);
     EXPECT_EQ(calc.Count("memory"), 1);
     EXPECT_EQ(calc.Engine().GetLastHistoryEntry(), "[" + rsMemoryHistoryPrefix() + "5.0000 ]");
 }
 
-TEST_F(GlobalStateTest, MemorySurvivesClearsAndErrors)
+TEST_F(CalcEngineTest, MemorySurvivesClearsAndErrors)
 {
     CalcKeyDriver calc;
-    calc.Press("7 m+ ac 9 c 1 / 0 =");
+    calc.Press("7 [m+] [ac] 9 c 1 / 0 =");
     EXPECT_EQ(calc.Display(), rsErrorMsg());
     EXPECT_EQ(calc.Engine().GetMemoryValue(), 7);
 }
 
-TEST_F(GlobalStateTest, TapeCursor)
+TEST_F(CalcEngineTest, TapeCursor)
 {
     TQORCalcEngine engine;
     EXPECT_EQ(engine.GetNextHistoryEntry(), "");
@@ -90,7 +90,7 @@ struct TapePositionCase {
     std::int32_t After;
 };
 
-class TapePosition : public GlobalStateTest,
+class TapePosition : public CalcEngineTest,
                      public ::testing::WithParamInterface<TapePositionCase> { };
 
 TEST_P(TapePosition, ReadsSafely)
@@ -122,7 +122,7 @@ INSTANTIATE_TEST_SUITE_P(Positions, TapePosition,
                                                              0}),
                          RowName<TapePositionCase>);
 
-TEST_F(GlobalStateTest, SameLineKeepsOnlyTheLastPendingOperator)
+TEST_F(CalcEngineTest, SameLineKeepsOnlyTheLastPendingOperator)
 {
     CalcKeyDriver calc;
     auto& engine = calc.Engine();
@@ -147,7 +147,7 @@ struct ErrorCase {
 
 void PrintTo(const ErrorCase& c, std::ostream* os) { *os << c.Keys; }
 
-class ErrorTable : public GlobalStateTest, public ::testing::WithParamInterface<ErrorCase> { };
+class ErrorTable : public CalcEngineTest, public ::testing::WithParamInterface<ErrorCase> { };
 
 TEST_P(ErrorTable, EndsInTheErrorStateAndRecovers)
 {
@@ -176,39 +176,39 @@ TEST_P(ErrorTable, EndsInTheErrorStateAndRecovers)
 // clang-format off
 INSTANTIATE_TEST_SUITE_P(Errors, ErrorTable, ::testing::Values(
     ErrorCase{"DivideByZero", "7 / 0 =", rsDivideByZero},
-    ErrorCase{"ModulusByZero", "7 mod 0 =", rsDivideByZero},
-    ErrorCase{"RemainderByZero", "7 rem 0 +", rsDivideByZero},
-    ErrorCase{"DivByZero", "7 div 0 )", rsDivideByZero},
-    ErrorCase{"IntDivByZero", "7 intdiv 0 =", rsDivideByZero},
-    ErrorCase{"ZerothRoot", "8 inv ^ 0 =", rsDivideByZero},
-    ErrorCase{"SquareRootOfNegative", "- 9 sqrt", rsSqRootNeg},
-    ErrorCase{"ReciprocalOfZero", "0 1/x", rsDivideByZero},
-    ErrorCase{"ReciprocalOfNothing", "1/x", rsDivideByZero},
+    ErrorCase{"ModulusByZero", "7 [mod] 0 =", rsDivideByZero},
+    ErrorCase{"RemainderByZero", "7 [rem] 0 +", rsDivideByZero},
+    ErrorCase{"DivByZero", "7 [div] 0 )", rsDivideByZero},
+    ErrorCase{"IntDivByZero", "7 [intdiv] 0 =", rsDivideByZero},
+    ErrorCase{"ZerothRoot", "8 [inv] ^ 0 =", rsDivideByZero},
+    ErrorCase{"SquareRootOfNegative", "- 9 [sqrt]", rsSqRootNeg},
+    ErrorCase{"ReciprocalOfZero", "0 [1/x]", rsDivideByZero},
+    ErrorCase{"ReciprocalOfNothing", "[1/x]", rsDivideByZero},
     ErrorCase{"OperatorWithOneOperand", "2 * =", rsInvalidEquation},
-    ErrorCase{"LogOfZero", "0 log", nullptr},
-    ErrorCase{"LnOfNegative", "- 1 ln", nullptr},
-    ErrorCase{"ArcsineOutOfDomain", "2 inv sin", nullptr},
-    ErrorCase{"AreaCosineBelowOne", ". 5 inv hyp cos", nullptr},
-    ErrorCase{"GammaPole", "2 +/- gamma", nullptr},
-    ErrorCase{"ProductOverflows", "1 ee 4 0 0 0 * 1 ee 4 0 0 0 =", nullptr},
-    ErrorCase{"SquareOverflows", "1 ee 3 0 0 0 sqr", nullptr},
+    ErrorCase{"LogOfZero", "0 [log]", nullptr},
+    ErrorCase{"LnOfNegative", "- 1 [ln]", nullptr},
+    ErrorCase{"ArcsineOutOfDomain", "2 [inv] [sin]", nullptr},
+    ErrorCase{"AreaCosineBelowOne", ". 5 [inv] [hyp] [cos]", nullptr},
+    ErrorCase{"GammaPole", "2 [+/-] [gamma]", nullptr},
+    ErrorCase{"ProductOverflows", "1 [ee] 4 0 0 0 * 1 [ee] 4 0 0 0 =", nullptr},
+    ErrorCase{"SquareOverflows", "1 [ee] 3 0 0 0 [sqr]", nullptr},
     ErrorCase{"PowerOverflows", "1 0 ^ 9 9 9 9 9 =", nullptr},
-    ErrorCase{"ExpOverflows", "1 2 0 0 0 0 inv ln", nullptr},
+    ErrorCase{"ExpOverflows", "1 2 0 0 0 0 [inv] [ln]", nullptr},
     ErrorCase{"LoneMinusAsOperand", "- *", nullptr},
-    ErrorCase{"PercentOverflows", "1 ee 4 0 0 0 % 1 ee 4 0 0 0 =", nullptr}),
+    ErrorCase{"PercentOverflows", "1 [ee] 4 0 0 0 % 1 [ee] 4 0 0 0 =", nullptr}),
     RowName<ErrorCase>);
 // clang-format on
 
-TEST_F(GlobalStateTest, PrefixFunctionWithoutOperandIsAnInvalidEquation)
+TEST_F(CalcEngineTest, PrefixFunctionWithoutOperandIsAnInvalidEquation)
 {
     CalcKeyDriver calc;
     calc.Engine().SetPrefixFunctions(true);
-    calc.Press("sqrt =");
+    calc.Press("[sqrt] =");
     EXPECT_EQ(calc.Display(), rsErrorMsg());
     EXPECT_EQ(calc.Engine().GetLastError(), rsInvalidEquation());
 }
 
-TEST_F(GlobalStateTest, NonFiniteInputNeverReachesTheDisplay)
+TEST_F(CalcEngineTest, NonFiniteInputNeverReachesTheDisplay)
 {
     for (const long double bad : {std::numeric_limits<long double>::quiet_NaN(),
                                   std::numeric_limits<long double>::infinity()}) {
@@ -224,10 +224,10 @@ TEST_F(GlobalStateTest, NonFiniteInputNeverReachesTheDisplay)
     }
 }
 
-TEST_F(GlobalStateTest, AllClearEmptiesEverythingButMemory)
+TEST_F(CalcEngineTest, AllClearEmptiesEverythingButMemory)
 {
     CalcKeyDriver calc;
-    calc.Press("4 m+ 2 + ( 3 inv");
+    calc.Press("4 [m+] 2 + ( 3 [inv]");
     calc.Engine().AllClear();
     EXPECT_EQ(calc.Display(), "0");
     EXPECT_EQ(calc.Engine().GetOperandCount() + calc.Engine().GetOperatorCount(), 0);

@@ -18,7 +18,7 @@ struct QuietRow {
     std::string_view keys;
 };
 
-class QuietTable : public GlobalStateTest, public ::testing::WithParamInterface<QuietRow> { };
+class QuietTable : public CalcEngineTest, public ::testing::WithParamInterface<QuietRow> { };
 
 TEST_P(QuietTable, SameValueAndErrorWithoutDisplayOrTape)
 {
@@ -40,13 +40,13 @@ TEST_P(QuietTable, SameValueAndErrorWithoutDisplayOrTape)
 INSTANTIATE_TEST_SUITE_P(Keys, QuietTable,
                          ::testing::Values(QuietRow {"Precedence", "1 2 3 4 . 5 + 3 * 4 ="},
                                            QuietRow {"Brackets", "2 * ( 3 + 4 ) - 1 ="},
-                                           QuietRow {"Memory", "1 2 3 4 5 6 7 m+ 2 * mr ="},
-                                           QuietRow {"Functions", "2 sqrt + 9 ln ="},
+                                           QuietRow {"Memory", "1 2 3 4 5 6 7 [m+] 2 * [mr] ="},
+                                           QuietRow {"Functions", "2 [sqrt] + 9 [ln] ="},
                                            QuietRow {"DivisionByZero", "5 / 0 ="},
                                            QuietRow {"ErrorThenRecovery", "5 / 0 = 7 + 1 ="}),
                          RowName<QuietRow>);
 
-TEST_F(GlobalStateTest, EveryNewEngineSeedsTheGeneratorWithTheDay)
+TEST_F(CalcEngineTest, EveryNewEngineSeedsTheGeneratorWithTheDay)
 {
     TQORCalcEngine first;
     const Extended a = RandomExtended();

@@ -55,8 +55,7 @@ struct TapeRow {
     bool sameLine = false;
 };
 
-class TapeReadTest : public test::GlobalStateTest,
-                     public ::testing::WithParamInterface<TapeRow> { };
+class TapeReadTest : public test::CalcEngineTest, public ::testing::WithParamInterface<TapeRow> { };
 
 TEST_P(TapeReadTest, RowsTakeTheTapeApart)
 {
@@ -71,9 +70,9 @@ INSTANTIATE_TEST_SUITE_P(
     Keys, TapeReadTest,
     ::testing::Values(
         TapeRow {"Sum", "2 + 3 =", "v:2 | o:+ | v:3 | o:= | r:5"},
-        TapeRow {"NegativeOperandIsAValue", "7 +/- * 2 =", "v:-7 | o:* | v:2 | o:= | r:-14"},
-        TapeRow {"FunctionAndMemoryKeys", "30 sin m+ mr", "v:30 | o:sin | o:M+ | o:MR"},
-        TapeRow {"RuleLine", "1 + 1 = paper", "v:1 | o:+ | v:1 | o:= | r:2 | -"},
+        TapeRow {"NegativeOperandIsAValue", "7 [+/-] * 2 =", "v:-7 | o:* | v:2 | o:= | r:-14"},
+        TapeRow {"FunctionAndMemoryKeys", "30 [sin] [m+] [mr]", "v:30 | o:sin | o:M+ | o:MR"},
+        TapeRow {"RuleLine", "1 + 1 = [paper]", "v:1 | o:+ | v:1 | o:= | r:2 | -"},
         TapeRow {"ErrorLine", "1 / 0 =", "!"},
         TapeRow {"OperatorOnTheOperandsLine", "2 + 3 * 4 =", "v:2 | o:+ 3 | o:* 4 | r:= 14", true},
         TapeRow {"ChainedResultsStartNewValues",
@@ -104,7 +103,7 @@ struct ProgTapeRow {
     std::vector<long long> numbers; // the numbers of the lines that have one, in order
 };
 
-class ProgTapeTest : public test::GlobalStateTest,
+class ProgTapeTest : public test::CalcEngineTest,
                      public ::testing::WithParamInterface<ProgTapeRow> { };
 
 TEST_P(ProgTapeTest, DigitsAreReadInTheBaseOfTheMoment)
@@ -183,7 +182,7 @@ std::vector<std::vector<std::string>> ParseCsv(const std::string& csv, char sepa
     return records;
 }
 
-class TapeExportTest : public test::GlobalStateTest, public ::testing::WithParamInterface<bool> { };
+class TapeExportTest : public test::CalcEngineTest, public ::testing::WithParamInterface<bool> { };
 
 // The CSV read back gives every row's kind, operator, text and number, in the current format
 // settings: "," decimals switch the field separator to ";" and the numbers to "," decimals.
@@ -196,7 +195,7 @@ TEST_P(TapeExportTest, CsvReadsBackToTheRows)
     test::CalcKeyDriver driver;
     driver.Engine().SetThousandsSeparators(true);
     driver.Engine().SetOperatorSameLine(true);
-    driver.Press("1234.5 + 3 * 4 = paper 2 / 3 =");
+    driver.Press("1234.5 + 3 * 4 = [paper] 2 / 3 =");
     const auto rows = ReadTape(driver.Engine().GetHistory());
     const std::string csv = TapeToCsv(rows);
     const char separator = comma ? ';' : ',';
@@ -233,7 +232,7 @@ TEST_F(TapeExportTest, TextLinesUpOperatorsAndNumbers)
     test::CalcKeyDriver driver;
     driver.Engine().SetTrimTrailingZeroes(true);
     driver.Engine().SetOperatorSameLine(true);
-    driver.Press("12.5 + 3 = paper");
+    driver.Press("12.5 + 3 = [paper]");
     EXPECT_EQ(TapeToText(ReadTape(driver.Engine().GetHistory())),
               "  12.5\n"
               "+    3\n"

@@ -5,7 +5,6 @@
 #include "CalcDialogTest.h"
 #include "QORKITCalcEdit.h"
 #include "QORKITSciCalcEdit.h"
-#include "QtKeyDriver.h"
 
 #include <QLineEdit>
 #include <QScreen>
@@ -20,8 +19,6 @@
 namespace qorkit {
 namespace {
 
-using test::KeyClick;
-using test::TypeKeys;
 using test::WhenModal;
 
 // One kind of calculator edit: how to make it and the room its calculator takes.
@@ -77,7 +74,9 @@ protected:
         edit_->setGeometry(10, 10, 200, edit_->sizeHint().height());
         other_ = new QLineEdit(window_.get());
         other_->setGeometry(10, 60, 100, 22);
-        ASSERT_TRUE(test::ShowActive(*window_));
+        window_->show();
+        window_->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
         edit_->SetDecimalPlaces(2);
         edit_->SetValue(12.5L);
     }
@@ -116,7 +115,7 @@ TEST_P(CalcEditTest, ButtonOpensPreloadedCalculatorAndExitHandsBack)
         EXPECT_EQ(form.GetCalcEngine().GetDisplayValue(), 12.5L);
         EXPECT_EQ(form.GetCalcEngine().GetDecimalPlaces(), 2);
         EXPECT_EQ(form.windowTitle(), QStringLiteral("Calculator"));
-        TypeKeys(form, "*4=");
+        QTest::keyClicks(form.KeyPanel, QStringLiteral("*4="));
         form.ExitClick();
     });
     EXPECT_EQ(edit_->GetValue(), 50);
@@ -132,7 +131,7 @@ TEST_P(CalcEditTest, CancelKeepsTheValue)
 {
     QSignalSpy changes(edit_, &TQORCalcEditBase::change);
     ClickButton([](TQORFloatCalcForm& form) {
-        TypeKeys(form, "999");
+        QTest::keyClicks(form.KeyPanel, QStringLiteral("999"));
         form.CancelClick();
     });
     EXPECT_EQ(edit_->GetValue(), 12.5L);
@@ -148,7 +147,7 @@ TEST_P(CalcEditTest, AltDownOpensTheCalculator)
     bool opened = false;
     WhenModal<TQORFloatCalcForm>([&](TQORFloatCalcForm& form) {
         opened = true;
-        TypeKeys(form, "A7");
+        QTest::keyClicks(form.KeyPanel, QStringLiteral("A7"));
         form.ExitClick();
     });
     QTest::keyClick(edit_->GetEdit(), Qt::Key_Down, Qt::AltModifier);
@@ -192,7 +191,7 @@ TEST_P(CalcEditTest, CalculatorControlGetsDecimalsAndTrimmingAndReturnsDecimals)
         EXPECT_TRUE(form.GetCalcEngine().GetTrimTrailingZeroes());
         EXPECT_EQ(form.GetCalcEngine().GetDisplayValue(), 12.5L);
         form.DPSpin->setValue(3);
-        TypeKeys(form, "+1=");
+        QTest::keyClicks(form.KeyPanel, QStringLiteral("+1="));
         form.ExitClick();
     });
     EXPECT_EQ(edit_->GetValue(), 13.5L);
@@ -243,7 +242,9 @@ TEST_P(CalcEditPlacement, OpensBelowAboveOrFlushRight)
     if (c.Offset.y() > area.height() / 2)
         corner.setY(area.y() + 40); // plenty of room below
     window.move(corner - QPoint(10, 10 + edit->height()));
-    ASSERT_TRUE(test::ShowActive(window));
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     auto* calculator = kind.MakeCalculator(&window);
     QPoint at(-1, -1);
     kind.CapturePos(calculator, &at);
@@ -345,7 +346,9 @@ TEST_F(CalcEditSettings, TitleIsStoredOnlyWhenItDiffersFromTheDefault)
 
 TEST_F(CalcEditSettings, ResizeRuleAndHiddenButton)
 {
-    ASSERT_TRUE(test::ShowActive(window_));
+    window_.show();
+    window_.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
     edit_->SetAutoSize(false);
     edit_->setGeometry(0, 0, 200, 40);
     EXPECT_EQ(edit_->GetEdit()->geometry(), QRect(0, 0, 200 - 22, 40));
@@ -399,7 +402,9 @@ TEST_F(CalcEditSettings, InnerEditEventsComeFromTheComposite)
 {
     window_.resize(220, 40);
     edit_->setGeometry(0, 0, 200, edit_->sizeHint().height());
-    ASSERT_TRUE(test::ShowActive(window_));
+    window_.show();
+    window_.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
     QObject* changeSender = nullptr;
     int signs = 0;
     edit_->SetOnChange([&](QObject* sender) { changeSender = sender; });
@@ -419,7 +424,9 @@ TEST_F(CalcEditSettings, RefusedTextKeepsTheValueAndIsReportedOnceByTheComposite
 {
     window_.resize(220, 40);
     edit_->setGeometry(0, 0, 200, edit_->sizeHint().height());
-    ASSERT_TRUE(test::ShowActive(window_));
+    window_.show();
+    window_.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
     edit_->GetFloatEdit()->SetBoundLower(0);
     edit_->GetFloatEdit()->SetBoundUpper(10);
     edit_->SetValue(5);

@@ -211,19 +211,17 @@ TEST_F(ComplexEditTest, SettingsReachBothEdits)
 
 TEST_F(ComplexEditTest, TabMovesThroughThePairThenLeaves)
 {
-    int entered = 0;
-    int exited = 0;
-    edit_->SetOnEnter([&](QObject*) { ++entered; });
-    edit_->SetOnExit([&](QObject*) { ++exited; });
+    QSignalSpy entered(edit_, &TQORComplexEdit::enter);
+    QSignalSpy exited(edit_, &TQORComplexEdit::exit);
     edit_->setFocus(Qt::TabFocusReason);
     EXPECT_EQ(QApplication::focusWidget(), Element(0));
     QTest::keyClick(Element(0), Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), Element(1));
-    EXPECT_EQ(entered, 1);
-    EXPECT_EQ(exited, 0);
+    EXPECT_EQ(entered.count(), 1);
+    EXPECT_EQ(exited.count(), 0);
     QTest::keyClick(Element(1), Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), other_);
-    EXPECT_EQ(exited, 1);
+    EXPECT_EQ(exited.count(), 1);
 }
 
 TEST_F(ComplexEditTest, PropertiesSignalAndEnumIsRegistered)

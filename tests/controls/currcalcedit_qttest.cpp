@@ -3,7 +3,6 @@
 // Cancel keeps it, and a result the amount type cannot hold is refused.
 #include "CalcDialogTest.h"
 #include "QORKITCurrCalcEdit.h"
-#include "QtKeyDriver.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -15,7 +14,6 @@
 namespace qorkit {
 namespace {
 
-using test::TypeKeys;
 using test::WhenModal;
 
 struct CurrCalcKind {
@@ -46,7 +44,9 @@ protected:
         window_->resize(300, 80);
         edit_ = GetParam().Make(window_.get());
         edit_->setGeometry(10, 10, 200, edit_->sizeHint().height());
-        ASSERT_TRUE(test::ShowActive(*window_));
+        window_->show();
+        window_->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
         edit_->SetDecimalPlaces(2);
         edit_->setProperty(GetParam().Amount, 12.5 * GetParam().Unit);
     }
@@ -58,7 +58,7 @@ protected:
         Extended opened = -1;
         WhenModal<TQORFloatCalcForm>([&](TQORFloatCalcForm& form) {
             opened = form.GetCalcEngine().GetDisplayValue();
-            TypeKeys(form, keys);
+            QTest::keyClicks(form.KeyPanel, QString::fromStdString(keys));
             if (exit)
                 form.ExitClick();
             else
@@ -111,11 +111,13 @@ TEST_F(CurrCalcEditRefusal, NegativeResultOfAnUnsignedAmountKeepsTheOldValue)
     UseIniSettings();
     QWidget window;
     auto* edit = new TQORLongCurrCalcEdit(&window);
-    ASSERT_TRUE(test::ShowActive(window));
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     edit->SetAsQORLongCurrency(1250);
     QSignalSpy errors(edit, &TQORCalcEditBase::validationError);
     WhenModal<TQORFloatCalcForm>([](TQORFloatCalcForm& form) {
-        TypeKeys(form, "-20=");
+        QTest::keyClicks(form.KeyPanel, QStringLiteral("-20="));
         form.ExitClick();
     });
     QTest::mouseClick(edit->GetButton(), Qt::LeftButton);

@@ -5,7 +5,6 @@
 #include "QORKITSettings.h"
 #include "QORKIT_RS_Calc.h"
 #include "QorkitTestSupport.h"
-#include "QtKeyDriver.h"
 
 #include <QLineEdit>
 #include <QSignalSpy>
@@ -31,7 +30,9 @@ protected:
         window_->resize(300, 80);
         other_ = new QLineEdit(window_.get());
         other_->setGeometry(10, 45, 100, 22);
-        ASSERT_TRUE(test::ShowActive(*window_));
+        window_->show();
+        window_->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
         Use(new TQORBaseCurrEdit(window_.get()));
     }
     void Use(TQORBaseCurrEdit* edit)
@@ -53,8 +54,11 @@ protected:
                 QTest::keyClick(edit_, Qt::Key_Left);
             else if (c == QLatin1Char('#'))
                 QTest::keyClick(edit_, Qt::Key_Delete);
+            else if (c.unicode() > 0x7f) // no key of its own: the keyboard sends the text alone
+                QTest::sendKeyEvent(QTest::Click, edit_, Qt::Key_unknown, QString(c),
+                                    Qt::NoModifier);
             else
-                test::TypeKeys(edit_, QString(c));
+                QTest::keyClick(edit_, c.toLatin1());
         }
     }
     void Leave() { other_->setFocus(Qt::TabFocusReason); }

@@ -12,7 +12,8 @@
 namespace qorkit {
 namespace {
 
-class NumberEditsFormTest : public test::GlobalStateTest { };
+// The form holds calculator edits, whose engines seed the random generator.
+class NumberEditsFormTest : public test::GlobalStateTestOf<test::Area::Random> { };
 
 TEST_F(NumberEditsFormTest, ControlsBuildFromADesignerForm)
 {

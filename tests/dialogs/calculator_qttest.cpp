@@ -13,6 +13,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QSpinBox>
+#include <QTest>
 
 #include <cmath>
 #include <numbers>
@@ -21,7 +22,6 @@ namespace qorkit {
 namespace {
 
 using test::CalcDialogTest;
-using test::TypeKeys;
 using test::WhenModal;
 
 using CalculatorTest = CalcDialogTest;
@@ -29,7 +29,7 @@ using CalculatorTest = CalcDialogTest;
 void ClickAll(std::initializer_list<QToolButton*> keys)
 {
     for (auto* key : keys)
-        test::MouseClick(key);
+        QTest::mouseClick(key, Qt::LeftButton);
 }
 
 TEST_F(CalculatorTest, ClickedSumWithPrecedenceShowsAndReturns14)
@@ -71,13 +71,14 @@ TEST_F(CalculatorTest, EscapeCancelsAndTheCloseBoxTransfers)
 {
     TQORCalculator calculator;
     calculator.SetValue(1);
-    WhenModal<TQORCalcForm>([](TQORCalcForm& form) { TypeKeys(form, "8\x1b"); });
+    WhenModal<TQORCalcForm>(
+        [](TQORCalcForm& form) { QTest::keyClicks(form.KeyPanel, QStringLiteral("8\x1b")); });
     EXPECT_FALSE(calculator.Execute());
     EXPECT_EQ(calculator.GetValue(), 1);
 
     Extended shown = 0;
     WhenModal<TQORCalcForm>([&](TQORCalcForm& form) {
-        TypeKeys(form, "A8");
+        QTest::keyClicks(form.KeyPanel, QStringLiteral("A8"));
         shown = form.GetCalcEngine().GetDisplayValue();
         form.close();
     });
@@ -91,7 +92,7 @@ TEST_F(CalculatorTest, EngineErrorReachesLastErrorNotTheValue)
     TQORCalculator calculator;
     calculator.SetValue(3);
     WhenModal<TQORCalcForm>([](TQORCalcForm& form) {
-        TypeKeys(form, "A1/0=");
+        QTest::keyClicks(form.KeyPanel, QStringLiteral("A1/0="));
         EXPECT_EQ(form.ValueDisplay->text(), QStringLiteral("Error!"));
         form.ExitBtn->click();
     });
@@ -145,7 +146,7 @@ TEST_F(CalculatorTest, DisplayCalcAcceptsTypedResult)
     Extended value = 2.5L;
     WhenModal<TQORCalcForm>([](TQORCalcForm& form) {
         EXPECT_EQ(form.GetCalcEngine().GetDisplayValue(), 2.5L);
-        TypeKeys(form, "*4=");
+        QTest::keyClicks(form.KeyPanel, QStringLiteral("*4="));
         form.ExitBtn->click();
     });
     EXPECT_TRUE(DisplayCalc("Sum", value, 2, false));
@@ -160,7 +161,7 @@ TEST_F(CalculatorTest, CancelledDisplayCalcStillSavesMemoryAndAngleMode)
     Extended value = 4;
     WhenModal<TQORCalcForm>([](TQORCalcForm& form) {
         EXPECT_EQ(form.RadBtn->text(), QStringLiteral("rad"));
-        TypeKeys(form, "A6");
+        QTest::keyClicks(form.KeyPanel, QStringLiteral("A6"));
         ClickAll({form.MemoryAddBtn, form.RadBtn});
         EXPECT_EQ(form.RadBtn->text(), QStringLiteral("deg"));
         form.CancelBtn->click();
@@ -231,7 +232,7 @@ TEST_P(CalculatorKeys, TypedKeysGiveTheValue)
     else
         form = std::make_unique<TQORCalcForm>();
     form->GetCalcEngine().SetDecimalPlaces(10);
-    TypeKeys(*form, row.Keys);
+    QTest::keyClicks(form->KeyPanel, row.Keys);
     EXPECT_NEAR(static_cast<double>(form->GetCalcEngine().GetDisplayValue()),
                 static_cast<double>(row.Expected), 1e-9);
 }
@@ -264,23 +265,23 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(CalculatorTest, ShortcutKeysClearCopyAndPaste)
 {
     TQORCalcForm form;
-    TypeKeys(form, "12+34");
-    test::KeyClick(form.KeyPanel, Qt::Key_Delete);
-    TypeKeys(form, "5=");
+    QTest::keyClicks(form.KeyPanel, QStringLiteral("12+34"));
+    QTest::keyClick(form.KeyPanel, Qt::Key_Delete);
+    QTest::keyClicks(form.KeyPanel, QStringLiteral("5="));
     EXPECT_EQ(form.GetCalcEngine().GetDisplayValue(), 17); // the pending "12 +" survived
 
-    test::KeyClick(form.KeyPanel, Qt::Key_C, Qt::ControlModifier);
+    QTest::keyClick(form.KeyPanel, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), form.ValueDisplay->text());
 
     QGuiApplication::clipboard()->setText(QStringLiteral("2.25"));
-    test::KeyClick(form.KeyPanel, Qt::Key_Insert, Qt::ShiftModifier);
+    QTest::keyClick(form.KeyPanel, Qt::Key_Insert, Qt::ShiftModifier);
     EXPECT_EQ(form.GetCalcEngine().GetDisplayValue(), 2.25L);
 
     // The numeric pad's decimal key enters the separator even where the locale's is ",".
     const test::CommaDecimals comma;
-    TypeKeys(form, "A1");
-    test::KeyClick(form.KeyPanel, Qt::Key_Period, Qt::KeypadModifier);
-    TypeKeys(form, "5");
+    QTest::keyClicks(form.KeyPanel, QStringLiteral("A1"));
+    QTest::keyClick(form.KeyPanel, Qt::Key_Period, Qt::KeypadModifier);
+    QTest::keyClicks(form.KeyPanel, QStringLiteral("5"));
     EXPECT_EQ(form.GetCalcEngine().GetDisplayValue(), 1.5L);
 }
 
@@ -293,7 +294,7 @@ TEST_F(CalculatorTest, F10AndThePadDecimalKeyBelongToTheStandardCalculator)
     TQORProgCalcForm prog;
     for (TQORCalcFormBase* form : std::initializer_list<TQORCalcFormBase*> {&calc, &sci, &prog}) {
         form->show();
-        test::KeyClick(form->KeyPanel, Qt::Key_F10);
+        QTest::keyClick(form->KeyPanel, Qt::Key_F10);
     }
     EXPECT_FALSE(calc.isVisible());
     EXPECT_EQ(calc.result(), QDialog::Accepted);
@@ -302,9 +303,9 @@ TEST_F(CalculatorTest, F10AndThePadDecimalKeyBelongToTheStandardCalculator)
 
     const test::CommaDecimals comma;
     const auto padDecimal = [](TQORFloatCalcForm& form, const QString& typed) {
-        TypeKeys(form, "A1");
-        test::KeyClick(form.KeyPanel, Qt::Key_Period, Qt::KeypadModifier, typed);
-        TypeKeys(form, "5");
+        QTest::keyClicks(form.KeyPanel, QStringLiteral("A1"));
+        QTest::sendKeyEvent(QTest::Click, form.KeyPanel, Qt::Key_Period, typed, Qt::KeypadModifier);
+        QTest::keyClicks(form.KeyPanel, QStringLiteral("5"));
         return form.GetCalcEngine().GetDisplayValue();
     };
     EXPECT_EQ(padDecimal(calc, QStringLiteral(".")), 1.5L);
@@ -318,7 +319,7 @@ TEST_F(CalculatorTest, PastedTextGoesToTheEngineAndBadTextShowsError)
     QGuiApplication::clipboard()->setText(QStringLiteral("-1234.5"));
     form.PasteBtn->click();
     EXPECT_EQ(form.GetCalcEngine().GetDisplayValue(), -1234.5L);
-    TypeKeys(form, "+1=");
+    QTest::keyClicks(form.KeyPanel, QStringLiteral("+1="));
     EXPECT_EQ(form.GetCalcEngine().GetDisplayValue(), -1233.5L);
 
     QGuiApplication::clipboard()->setText(QStringLiteral("twelve"));
@@ -332,13 +333,12 @@ TEST_F(CalculatorTest, MousePressOnAKeyGivesTheFocusBackToTheKeyPanel)
     TQORCalcForm form;
     form.show();
     form.activateWindow();
-    QCoreApplication::processEvents();
-    ASSERT_TRUE(form.isActiveWindow());
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
     form.DPSpin->setFocus();
     ASSERT_TRUE(form.DPSpin->hasFocus());
-    test::MouseClick(form.FiveBtn);
+    QTest::mouseClick(form.FiveBtn, Qt::LeftButton);
     EXPECT_TRUE(form.KeyPanel->hasFocus());
-    TypeKeys(form, "5");
+    QTest::keyClicks(form.KeyPanel, QStringLiteral("5"));
     EXPECT_EQ(form.GetCalcEngine().GetDisplayValue(), 55);
 }
 
@@ -351,10 +351,11 @@ TEST_F(CalculatorTest, OnlyTheStandardCalculatorPassesTypedCharactersOn)
     for (TQORFloatCalcForm* form : std::initializer_list<TQORFloatCalcForm*> {&calc, &sci}) {
         form->show();
         form->activateWindow();
-        QCoreApplication::processEvents();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(form));
         form->DPSpin->setFocus();
         form->DPSpin->selectAll();
-        test::KeyClick(form->DPSpin, Qt::Key_7, Qt::NoModifier, QStringLiteral("7"));
+        QTest::sendKeyEvent(QTest::Click, form->DPSpin, Qt::Key_7, QStringLiteral("7"),
+                            Qt::NoModifier);
         EXPECT_EQ(form->GetCalcEngine().GetDisplayValue(), 7);
     }
     EXPECT_EQ(calc.DPSpin->value(), 7);
@@ -388,7 +389,7 @@ TEST_F(CalculatorTest, SmallCalculatorHidesThirteenKeysAndMovesPercent)
     ClickAll({form.FiveBtn, form.ZeroBtn, form.AddBtn, form.OneBtn, form.ZeroBtn, form.PercentBtn,
               form.EqualsBtn});
     TQORCalcForm full;
-    TypeKeys(full, "50+10");
+    QTest::keyClicks(full.KeyPanel, QStringLiteral("50+10"));
     full.PercentBtn->click();
     full.EqualsBtn->click();
     EXPECT_EQ(form.GetCalcEngine().GetDisplayValue(), full.GetCalcEngine().GetDisplayValue());
@@ -455,7 +456,7 @@ TEST_F(CalculatorTest, EveryControlIsReachableByName)
 TEST_F(CalculatorTest, DecimalPlacesSpinReformatsTheDisplay)
 {
     TQORCalcForm form;
-    TypeKeys(form, "2@2=");
+    QTest::keyClicks(form.KeyPanel, QStringLiteral("2@2="));
     form.DPSpin->setValue(2);
     EXPECT_EQ(form.ValueDisplay->text(), QStringLiteral("1.41"));
     form.GetCalcEngine().SetDecimalPlaces(6);
@@ -476,7 +477,7 @@ TEST_F(CalculatorTest, ScientificFunctionKeysShowInvAndHyp)
     EXPECT_EQ(form.TanBtn->text(), QStringLiteral("tanh"));
     EXPECT_EQ(form.Lg2btn->text(), QStringLiteral("lg2"));
     // Typing a number clears the toggles.
-    TypeKeys(form, "1");
+    QTest::keyClicks(form.KeyPanel, QStringLiteral("1"));
     EXPECT_EQ(form.SinBtn->text(), QStringLiteral("sin"));
     // So does using a function, and the keys read plainly again.
     form.HypBtn->click();

@@ -6,12 +6,12 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QTest>
 
 namespace qorkit {
 namespace {
 
 using test::CalcDialogTest;
-using test::TypeKeys;
 using test::WhenModal;
 
 using ProgCalculatorTest = CalcDialogTest;
@@ -73,7 +73,7 @@ TEST_P(ProgDigitKeys, OnlyTheDigitsOfTheBaseAreEnabled)
     // A typed digit the base cannot take does nothing.
     if (*row.Disabled != 0) {
         const std::string before = form.GetCalcEngine().GetDisplayStr();
-        TypeKeys(form, std::string(1, *row.Disabled));
+        QTest::keyClicks(form.KeyPanel, QString(QLatin1Char(*row.Disabled)));
         EXPECT_EQ(form.GetCalcEngine().GetDisplayStr(), before);
     }
 }
@@ -98,7 +98,7 @@ TEST_P(ProgKeys, TypedKeysGiveTheValue)
 {
     TQORProgCalcForm form; // hexadecimal, 64 bits
     form.GetCalcEngine().SetPrefixFunctions(false); // one-operand keys act on the shown value
-    TypeKeys(form, GetParam().Keys);
+    QTest::keyClicks(form.KeyPanel, GetParam().Keys);
     EXPECT_EQ(form.GetCalcEngine().GetDisplayValue(), GetParam().Expected);
 }
 
@@ -134,7 +134,7 @@ TEST_F(ProgCalculatorTest, CancelKeepsValueAndMemoryEvenAfterMemoryAdd)
     EXPECT_EQ(calculator.GetMemory(), 7);
 
     WhenModal<TQORProgCalcForm>([](TQORProgCalcForm& form) {
-        TypeKeys(form, "*3=");
+        QTest::keyClicks(form.KeyPanel, QStringLiteral("*3="));
         form.MemoryAddBtn->click();
         form.ExitBtn->click();
     });
@@ -147,16 +147,16 @@ TEST_F(ProgCalculatorTest, CancelKeepsValueAndMemoryEvenAfterMemoryAdd)
 TEST_F(ProgCalculatorTest, ClipboardCopiesThePanelAndPastesIntoTheEngine)
 {
     TQORProgCalcForm form;
-    TypeKeys(form, "1F");
-    test::KeyClick(form.KeyPanel, Qt::Key_Insert, Qt::ControlModifier);
+    QTest::keyClicks(form.KeyPanel, QStringLiteral("1F"));
+    QTest::keyClick(form.KeyPanel, Qt::Key_Insert, Qt::ControlModifier);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), form.ValueDisplay->text());
     QGuiApplication::clipboard()->setText(QStringLiteral("ABC"));
-    test::KeyClick(form.KeyPanel, Qt::Key_V, Qt::ControlModifier);
+    QTest::keyClick(form.KeyPanel, Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(form.GetCalcEngine().GetDisplayValue(), 0xABC);
     // Delete clears only the number being typed: the pending sum goes on.
-    TypeKeys(form, "+77");
-    test::KeyClick(form.KeyPanel, Qt::Key_Delete);
-    TypeKeys(form, "2=");
+    QTest::keyClicks(form.KeyPanel, QStringLiteral("+77"));
+    QTest::keyClick(form.KeyPanel, Qt::Key_Delete);
+    QTest::keyClicks(form.KeyPanel, QStringLiteral("2="));
     EXPECT_EQ(form.GetCalcEngine().GetDisplayValue(), 0xABE);
 }
 
@@ -177,7 +177,7 @@ TEST_F(ProgCalculatorTest, DisplayProgCalcKeepsMemoryWhenCancelled)
     QPoint where;
     WhenModal<TQORProgCalcForm>([&](TQORProgCalcForm& form) {
         where = form.pos();
-        TypeKeys(form, "*2=");
+        QTest::keyClicks(form.KeyPanel, QStringLiteral("*2="));
         form.ExitBtn->click();
     });
     EXPECT_TRUE(DisplayProgCalcPos("Bits", value, 30, 200, false));

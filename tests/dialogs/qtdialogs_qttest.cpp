@@ -10,13 +10,13 @@
 
 #include <QPointer>
 #include <QSignalSpy>
+#include <QTest>
 #include <QTranslator>
 
 namespace qorkit {
 namespace {
 
 using test::CalcDialogTest;
-using test::TypeKeys;
 using test::WhenModal;
 
 class QtDialogTest : public CalcDialogTest {
@@ -85,12 +85,12 @@ TEST_F(QtDialogTest, TwoListenersFollowTheEngineOfAnOpenDialog)
         });
         QObject::connect(front, &TQORCalcEngineObject::displayChange, gone.data(),
                          [&] { ++second; });
-        TypeKeys(form, "12+");
+        QTest::keyClicks(form.KeyPanel, QStringLiteral("12+"));
         EXPECT_GT(first, 0);
         EXPECT_EQ(first, second);
         delete gone.data(); // disconnects itself
         const int before = second;
-        TypeKeys(form, "3=");
+        QTest::keyClicks(form.KeyPanel, QStringLiteral("3="));
         EXPECT_EQ(second, before);
         EXPECT_GT(first, before);
         // The dialog's own panel still follows the engine.

@@ -17,7 +17,7 @@
 namespace qorkit {
 namespace {
 
-class RegIniTest : public test::GlobalStateTest {
+class RegIniTest : public test::GlobalStateTestOf<test::Area::Calculator | test::Area::Store> {
 protected:
     void SetUp() override
     {

@@ -13,6 +13,7 @@
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -148,7 +149,7 @@ TYPED_TEST(TapeViewTest, TypedKeysAppearOnTheTape)
 {
     TypeParam form;
     form.SetShowTape(true);
-    test::TypeKeys(form, "12+3=");
+    QTest::keyClicks(form.KeyPanel, QStringLiteral("12+3="));
     auto* model = form.GetTapeModel();
     ASSERT_GE(model->rowCount(), 4);
     const QModelIndex last = model->index(model->rowCount() - 1);

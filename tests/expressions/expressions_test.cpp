@@ -26,7 +26,7 @@ struct ExprCase {
 
 void PrintTo(const ExprCase& c, std::ostream* os) { *os << c.Text; }
 
-class EvaluateTable : public GlobalStateTest, public ::testing::WithParamInterface<ExprCase> { };
+class EvaluateTable : public CalcEngineTest, public ::testing::WithParamInterface<ExprCase> { };
 
 TEST_P(EvaluateTable, GivesTheValue)
 {
@@ -79,7 +79,7 @@ INSTANTIATE_TEST_SUITE_P(Expressions, EvaluateTable, ::testing::Values(
     RowName<ExprCase>);
 // clang-format on
 
-class Expressions : public GlobalStateTest { };
+class Expressions : public CalcEngineTest { };
 
 TEST_F(Expressions, EngineStateIsRestored)
 {

@@ -1,5 +1,7 @@
 #include "CalcKeyDriver.h"
 
+#include "KeyGrammar.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -37,27 +39,10 @@ CalcKeyDriver::CalcKeyDriver()
     engine_.SetOnAngleModeChange(recordAs("angle"));
 }
 
-CalcKeyDriver& CalcKeyDriver::Press(std::string_view names)
+CalcKeyDriver& CalcKeyDriver::Press(std::string_view keys)
 {
-    while (!names.empty()) {
-        const auto start = names.find_first_not_of(' ');
-        if (start == std::string_view::npos)
-            break;
-        names.remove_prefix(start);
-        const auto name = names.substr(0, names.find(' '));
-        names.remove_prefix(name.size());
-        EXPECT_TRUE(PressCalcKey(engine_, name)) << "unknown key '" << name << "'";
-    }
-    return *this;
-}
-
-CalcKeyDriver& CalcKeyDriver::PressChars(std::string_view chars)
-{
-    for (const char c : chars) {
-        if (c == ' ')
-            continue;
-        EXPECT_TRUE(PressCalcKey(engine_, std::string_view(&c, 1))) << "unknown key '" << c << "'";
-    }
+    for (const auto& key : SplitKeys(keys))
+        EXPECT_TRUE(PressCalcKey(engine_, key.Name)) << "unknown key '" << key.Name << "'";
     return *this;
 }
 

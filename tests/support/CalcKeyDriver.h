@@ -17,17 +17,19 @@ namespace qorkit::test {
 ::testing::AssertionResult NearExtended(long double actual, long double expected,
                                         long double tolerance = 4e-18L);
 
-// An engine with every event assigned to a recorder. Keys are the engine's key names
-// separated by blanks ("12.5 + sin ="), or, with PressChars, one key per character ("2+3*4=").
+// Fixture of tests that run calculator engines: a new engine seeds the random generator.
+using CalcEngineTest = GlobalStateTestOf<Area::Random>;
+
+// An engine with every event assigned to a recorder. Keys are written in the grammar of
+// KeyGrammar.h: "12.5 + [sin] =", "2+3*4=".
 class CalcKeyDriver {
 public:
     CalcKeyDriver();
     CalcKeyDriver(const CalcKeyDriver&) = delete;
     CalcKeyDriver& operator=(const CalcKeyDriver&) = delete;
 
-    // Fails the current test on an unknown key name.
-    CalcKeyDriver& Press(std::string_view names);
-    CalcKeyDriver& PressChars(std::string_view chars);
+    // Fails the current test on an unknown key.
+    CalcKeyDriver& Press(std::string_view keys);
 
     TQORCalcEngine& Engine() noexcept { return engine_; }
     const std::string& Display() const noexcept { return engine_.GetDisplayStr(); }

@@ -1,8 +1,8 @@
 // A fixture for tests that drive one edit control with real focus changes: the control and a
-// plain line edit in an active window, the focus starting on the line edit.
+// plain line edit in an active window, the focus starting on the line edit. `Touched` names the
+// process-wide areas the tests change.
 #pragma once
 
-#include "../widgets/QtKeyDriver.h"
 #include "QorkitTestSupport.h"
 
 #include <QLineEdit>
@@ -11,17 +11,20 @@
 
 namespace qorkit::test {
 
-template<class Control> class EditWindowTest : public GlobalStateTest {
+template<class Control, Area Touched = Area::None>
+class EditWindowTest : public GlobalStateTestOf<Touched> {
 protected:
     void SetUp() override
     {
-        GlobalStateTest::SetUp();
+        GlobalStateTestOf<Touched>::SetUp();
         auto* layout = new QVBoxLayout(&window_);
         edit_ = new Control(&window_);
         other_ = new QLineEdit(&window_);
         layout->addWidget(edit_, 0, Qt::AlignLeft);
         layout->addWidget(other_);
-        ASSERT_TRUE(ShowActive(window_));
+        window_.show();
+        window_.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
         other_->setFocus(Qt::TabFocusReason);
     }
     // Tabs into `target`, replaces its text with `keys` and tabs out to the line edit.

@@ -1,42 +1,39 @@
 #include "ProgKeyDriver.h"
 
+#include "KeyGrammar.h"
+
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <cctype>
-#include <functional>
 #include <stdexcept>
+#include <string_view>
 #include <utility>
 
 namespace qorkit::test {
 
 namespace {
 
-using Action = std::function<void(IQORProgCalcEngine&)>;
+// The programmer's keyboard characters that stand for a named key of the engine.
+constexpr std::pair<char, std::string_view> kCharNames[] = {
+    {'%', "MOD"}, {'&', "AND"},  {'|', "OR"},  {'^', "XOR"}, {'#', "NAND"},
+    {'?', "NOR"}, {'!', "XNOR"}, {'~', "NOT"}, {'_', "NEG"}, {'<', "SHL"},
+    {'>', "SHR"}, {'{', "ROL"},  {'}', "ROR"},
+};
 
-const std::map<char, Action>& CharKeys()
+// The name the engine's key table knows the key by.
+std::string EngineName(const KeyToken& key)
 {
-    static const std::map<char, Action> keys {
-        {'+', [](IQORProgCalcEngine& e) { e.DoAdd(); }},
-        {'-', [](IQORProgCalcEngine& e) { e.DoSubtract(); }},
-        {'*', [](IQORProgCalcEngine& e) { e.DoMultiply(); }},
-        {'/', [](IQORProgCalcEngine& e) { e.DoDivide(); }},
-        {'%', [](IQORProgCalcEngine& e) { e.DoMod(); }},
-        {'&', [](IQORProgCalcEngine& e) { e.DoAnd(); }},
-        {'|', [](IQORProgCalcEngine& e) { e.DoOr(); }},
-        {'^', [](IQORProgCalcEngine& e) { e.DoXor(); }},
-        {'#', [](IQORProgCalcEngine& e) { e.DoNand(); }},
-        {'?', [](IQORProgCalcEngine& e) { e.DoNor(); }},
-        {'!', [](IQORProgCalcEngine& e) { e.DoXnor(); }},
-        {'~', [](IQORProgCalcEngine& e) { e.DoNot(); }},
-        {'_', [](IQORProgCalcEngine& e) { e.DoNeg(); }},
-        {'<', [](IQORProgCalcEngine& e) { e.DoShl(1); }},
-        {'>', [](IQORProgCalcEngine& e) { e.DoShr(1); }},
-        {'{', [](IQORProgCalcEngine& e) { e.DoRol(1); }},
-        {'}', [](IQORProgCalcEngine& e) { e.DoRor(1); }},
-        {'(', [](IQORProgCalcEngine& e) { e.InputLeftBracket(); }},
-        {')', [](IQORProgCalcEngine& e) { e.InputRightBracket(); }},
-        {'=', [](IQORProgCalcEngine& e) { e.DoEquals(); }},
-    };
-    return keys;
+    if (!key.Bracketed) {
+        for (const auto& [ch, name] : kCharNames)
+            if (key.Name.front() == ch)
+                return std::string(name);
+        return key.Name;
+    }
+    const bool size = !key.Name.empty()
+        && std::all_of(key.Name.begin(), key.Name.end(),
+                       [](char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; });
+    return size ? "BITS" + key.Name : key.Name;
 }
 
 } // namespace
@@ -72,38 +69,12 @@ ProgKeyDriver& ProgKeyDriver::Setup(TQORBaseDisplay base, TQORBitSize size)
 
 ProgKeyDriver& ProgKeyDriver::Press(std::string_view keys)
 {
-    for (std::size_t i = 0; i < keys.size(); ++i) {
-        const char ch = keys[i];
-        if (ch == ' ')
-            continue;
-        if (ch == '[') {
-            const std::size_t end = keys.find(']', i);
-            if (end == std::string_view::npos)
-                throw std::invalid_argument("unclosed [ in keys");
-            PressWord(std::string(keys.substr(i + 1, end - i - 1)));
-            i = end;
-        } else if (std::isxdigit(static_cast<unsigned char>(ch))) {
-            engine_->InputDigit(ch);
-        } else if (auto it = CharKeys().find(ch); it != CharKeys().end()) {
-            it->second(*engine_);
-        } else {
-            throw std::invalid_argument(std::string("unknown key ") + ch);
-        }
+    for (const auto& key : SplitKeys(keys)) {
+        const std::string name = EngineName(key);
+        EXPECT_TRUE(PressProgKey(*engine_, name))
+            << "unknown key '" << key.Name << "' (engine key '" << name << "')";
     }
     return *this;
-}
-
-// A bracketed word is a key of the engine's table ("[MC]", "[HEX]"), a word size ("[16]"), or a
-// counted key with its count ("[SHL 4]"), pressed the way PressProgKey presses named keys.
-void ProgKeyDriver::PressWord(const std::string& word)
-{
-    const bool size = !word.empty() && std::all_of(word.begin(), word.end(), [](char c) {
-        return std::isdigit(static_cast<unsigned char>(c)) != 0;
-    });
-    const std::string name = size ? "BITS" + word : word;
-    if (PressProgKey(*engine_, name))
-        return;
-    throw std::invalid_argument("unknown key [" + word + "]");
 }
 
 std::vector<std::string> ProgKeyDriver::History()

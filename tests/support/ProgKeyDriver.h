@@ -1,12 +1,13 @@
 // Keystroke driver for the programmer's engine: a key string becomes engine calls, and every
 // notification is recorded, so a test reads like the keys a user presses.
 //
-// Keys (the programmer's calculator keyboard):
-//   0-9 A-F a-f  digits            + - * / % & | ^ # ? !   ADD SUB MUL DIV MOD AND OR XOR NAND NOR
-//   XNOR ~  NOT      _  NEG             < >  SHL 1, SHR 1        { }  ROL 1, ROR 1 ( )  brackets =
-//   equals                 blanks are ignored [word] for the other keys: [MC] [M+] [M-] [MR] [AC]
-//   [CL] [BS], [SHL n] [SHR n] [ROL n] [ROR n], bases [BIN] [DEC] [HEX] [OCT] and sizes [8] [16]
-//   [32] [64] (through the public setters, with their notifications and history lines).
+// Keys are written in the grammar of KeyGrammar.h. Besides the characters of the engine's own
+// table (0-9 A-F a-f, + - * / ( ) =), the driver reads these characters of the programmer's
+// calculator keyboard:
+//   %  [MOD]     &  [AND]     |  [OR]      ^  [XOR]     #  [NAND]    ?  [NOR]     !  [XNOR]
+//   ~  [NOT]     _  [NEG]     <  [SHL 1]   >  [SHR 1]   {  [ROL 1]   }  [ROR 1]
+// and a bracketed word size, [8] [16] [32] [64], is [BITS8] ... [BITS64]. Bases ([HEX]) and
+// sizes go through the public setters, with their notifications and history lines.
 #pragma once
 
 #include "QORKITProgCalcEngine.h"
@@ -26,7 +27,7 @@ public:
 
     // Quietly puts a fresh engine into a base and size, then clears the record.
     ProgKeyDriver& Setup(TQORBaseDisplay base, TQORBitSize size);
-    // Presses the keys; an unknown key throws std::invalid_argument.
+    // Presses the keys; an unknown key fails the running test.
     ProgKeyDriver& Press(std::string_view keys);
 
     IQORProgCalcEngine& Engine() { return *engine_; }
@@ -42,8 +43,6 @@ public:
     void ClearEvents();
 
 private:
-    void PressWord(const std::string& word);
-
     std::shared_ptr<IQORProgCalcEngine> engine_;
     std::vector<std::string> events_;
     std::map<std::string, int> counts_;

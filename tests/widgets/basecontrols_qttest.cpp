@@ -4,9 +4,9 @@
 #include "QORKITFloatEdit.h"
 #include "QORKITGlyphs.h"
 #include "QorkitTestSupport.h"
-#include "QtKeyDriver.h"
 
 #include <QImage>
+#include <QTest>
 #include <QToolButton>
 
 #include <gtest/gtest.h>
@@ -83,16 +83,16 @@ TEST(SpinEdit, EventsKeysAndReadOnly)
     spin.SetOnAfterUpClick([&](QObject*) { log += "U"; });
     spin.SetOnDownClick([&](QObject*) { log += "d"; });
     spin.SetOnAfterDownClick([&](QObject*) { log += "D"; });
-    test::SendKey(spin.GetEditor(), Qt::Key_Up);
-    test::SendKey(spin.GetEditor(), Qt::Key_PageUp);
-    test::SendKey(spin.GetEditor(), Qt::Key_Down);
+    QTest::keyClick(spin.GetEditor(), Qt::Key_Up);
+    QTest::keyClick(spin.GetEditor(), Qt::Key_PageUp);
+    QTest::keyClick(spin.GetEditor(), Qt::Key_Down);
     EXPECT_EQ(log, "uUuUdD");
     EXPECT_EQ(spin.GetValue(), 100);
     spin.findChild<QToolButton*>(QStringLiteral("UpBtn"))->click();
     EXPECT_EQ(spin.GetValue(), 101);
     spin.SetReadOnly(true);
     spin.UpClick(nullptr);
-    test::SendKey(spin.GetEditor(), Qt::Key_Up);
+    QTest::keyClick(spin.GetEditor(), Qt::Key_Up);
     EXPECT_EQ(spin.GetValue(), 101);
     EXPECT_EQ(log, "uUuUdDuU");
 }

@@ -88,7 +88,7 @@ const SignalRow SignalRows[] = {
     {"ProgEngineMemory", Make<TQORProgCalcEngineObject>(), "Memory", qint64 {9}},
 };
 
-class PropertySignals : public test::GlobalStateTest,
+class PropertySignals : public test::GlobalStateTestOf<test::Area::Random | test::Area::Calculator>,
                         public ::testing::WithParamInterface<SignalRow> { };
 
 TEST_P(PropertySignals, OneSignalForAChangeNoneForTheSameValue)

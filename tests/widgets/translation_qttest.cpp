@@ -174,7 +174,7 @@ struct LocaleRow {
     std::string currency;
 };
 
-class LocaleSyncTest : public test::GlobalStateTest,
+class LocaleSyncTest : public test::GlobalStateTestOf<test::Area::Format>,
                        public ::testing::WithParamInterface<LocaleRow> { };
 
 TEST_P(LocaleSyncTest, SeparatorsAndCurrencyFollowTheLocale)
