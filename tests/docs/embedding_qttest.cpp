@@ -1,7 +1,6 @@
 // The embedding guide's form: the label follows the edit's signals, and the calculator's
 // settings go to the INI file and come back in the next form.
 #include "AmountForm.h"
-#include "QtKeyDriver.h"
 
 #include <QLabel>
 #include <QSettings>
@@ -25,7 +24,9 @@ TEST_F(EmbeddingGuide, LabelFollowsTheEditsChangesAndRefusals)
 {
     ASSERT_TRUE(dir_.isValid());
     AmountForm form(IniFile());
-    ASSERT_TRUE(qorkit::test::ShowActive(form));
+    form.show();
+    form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
     auto* edit = form.findChild<qorkit::TQORCalcEdit*>();
     auto* status = form.findChild<QLabel*>(QStringLiteral("status"));
     ASSERT_NE(edit, nullptr);
