@@ -2,9 +2,35 @@
 
 #include "QORKITTranslation.h"
 
+#include <QPointer>
+
 #include <cmath>
+#include <functional>
+#include <limits>
 
 namespace qorkit {
+
+namespace dialogs_internal {
+
+template<class CountFn, class LineFn>
+const QStringList& TTapeCache::Read(CountFn count, LineFn line)
+{
+    const int total = count();
+    const auto known = static_cast<int>(lines_.size());
+    const bool grown = !rewritten_ && total >= known
+        && (known == 0 || (line(0) == lines_.front() && line(known - 1) == lines_.back()));
+    if (!grown) {
+        rewritten_ = false;
+        ++generation_;
+        lines_.clear();
+    }
+    lines_.reserve(total);
+    for (int i = static_cast<int>(lines_.size()); i < total; ++i)
+        lines_.append(line(i));
+    return lines_;
+}
+
+} // namespace dialogs_internal
 
 namespace {
 
@@ -16,109 +42,127 @@ void SignalIfChanged(Front* front, T& cache, T value, void (Front::*signal)(Arg)
         (front->*signal)(static_cast<Arg>(value));
 }
 
-using TCalcEventSetter = void (TQORCalcEngine::*)(TQORCalcEngine::TNotifyEvent);
-using TProgEventSetter = void (IQORProgCalcEngine::*)(TQORProgCalcNotifyEvent);
+// What a front puts in one of its engine's event slots: the handler the slot held before,
+// then the front (while it lives).
+template<class Front, class Engine> struct THook {
+    QPointer<Front> Owner;
+    std::function<void(Engine*)> Earlier;
+    void (*Call)(Front&, Engine*);
 
-// The event slots of each engine, all taken by a front.
-constexpr TCalcEventSetter CalcEventSetters[] = {
-    &TQORCalcEngine::SetOnDisplayChange,
-    &TQORCalcEngine::SetOnHistoryChange,
-    &TQORCalcEngine::SetOnError,
-    &TQORCalcEngine::SetOnMemoryChange,
-    &TQORCalcEngine::SetOnDecimalPlacesChange,
-    &TQORCalcEngine::SetOnAngleModeChange,
-    &TQORCalcEngine::SetOnSetToggles,
-    &TQORCalcEngine::SetOnClearToggles,
-};
-constexpr TProgEventSetter ProgEventSetters[] = {
-    &IQORProgCalcEngine::SetOnDisplayChange,
-    &IQORProgCalcEngine::SetOnHistoryChange,
-    &IQORProgCalcEngine::SetOnError,
-    &IQORProgCalcEngine::SetOnMemoryChange,
-    &IQORProgCalcEngine::SetOnBaseDisplayChange,
-    &IQORProgCalcEngine::SetOnBitSizeChange,
-    &IQORProgCalcEngine::SetOnSpacingChange,
-    &IQORProgCalcEngine::SetOnSizeChangeChange,
+    void operator()(Engine* engine) const
+    {
+        if (Earlier)
+            Earlier(engine);
+        if (Owner)
+            Call(*Owner, engine);
+    }
 };
 
-// Events a front passes on as they are: the engine's slot and the front's signal.
-struct TCalcRelay {
-    TCalcEventSetter Setter;
-    void (TQORCalcEngineObject::*Signal)();
+// One event slot of an engine and what the front does on it.
+template<class Front, class Engine, class Getter> struct TEventSlot {
+    Getter Get;
+    void (Engine::*Set)(std::function<void(Engine*)>);
+    void (*Call)(Front&, Engine*);
 };
-constexpr TCalcRelay CalcRelays[] = {
-    {&TQORCalcEngine::SetOnDisplayChange, &TQORCalcEngineObject::displayChange},
-    {&TQORCalcEngine::SetOnHistoryChange, &TQORCalcEngineObject::historyChange},
-    {&TQORCalcEngine::SetOnError, &TQORCalcEngineObject::error},
-};
-struct TProgRelay {
-    TProgEventSetter Setter;
-    void (TQORProgCalcEngineObject::*Signal)();
-};
-constexpr TProgRelay ProgRelays[] = {
-    {&IQORProgCalcEngine::SetOnDisplayChange, &TQORProgCalcEngineObject::displayChange},
-    {&IQORProgCalcEngine::SetOnHistoryChange, &TQORProgCalcEngineObject::historyChange},
-    {&IQORProgCalcEngine::SetOnError, &TQORProgCalcEngineObject::error},
-    {&IQORProgCalcEngine::SetOnSpacingChange, &TQORProgCalcEngineObject::spacingChange},
-    {&IQORProgCalcEngine::SetOnSizeChangeChange, &TQORProgCalcEngineObject::sizeChangeChange},
-};
+
+template<class Front, class Engine, class Slots>
+void TakeSlots(Front& front, Engine& engine, const Slots& slots)
+{
+    for (const auto& slot : slots)
+        (engine.*slot.Set)(THook<Front, Engine> {&front, (engine.*slot.Get)(), slot.Call});
+}
+
+// Gives back the handlers the front found, in the slots that still hold the front's hook.
+template<class Front, class Engine, class Slots>
+void GiveSlotsBack(const Front& front, Engine& engine, const Slots& slots)
+{
+    for (const auto& slot : slots) {
+        const auto handler = (engine.*slot.Get)();
+        const auto* hook = handler.template target<THook<Front, Engine>>();
+        if (hook && hook->Owner == &front)
+            (engine.*slot.Set)(hook->Earlier);
+    }
+}
+
+template<class Front, class Engine, class Slots>
+Front* FindFront(const Engine& engine, const Slots& slots)
+{
+    for (const auto& slot : slots) {
+        const auto handler = (engine.*slot.Get)();
+        if (const auto* hook = handler.template target<THook<Front, Engine>>(); hook && hook->Owner)
+            return hook->Owner.data();
+    }
+    return nullptr;
+}
 
 } // namespace
 
 // ---- TQORCalcEngineObject ------------------------------------------------------------------
 
+struct TQORCalcEngineObject::TEvents {
+    using TGetter = const TQORCalcEngine::TNotifyEvent& (TQORCalcEngine::*)() const noexcept;
+    using TSlot = TEventSlot<TQORCalcEngineObject, TQORCalcEngine, TGetter>;
+    using F = TQORCalcEngineObject;
+    using E = TQORCalcEngine;
+    static constexpr TSlot Slots[] = {
+        {&E::GetOnDisplayChange, &E::SetOnDisplayChange,
+         [](F& f, E*) { Q_EMIT f.displayChange(); }},
+        {&E::GetOnHistoryChange, &E::SetOnHistoryChange,
+         [](F& f, E*) { Q_EMIT f.historyChange(); }},
+        {&E::GetOnError, &E::SetOnError, [](F& f, E*) { Q_EMIT f.error(); }},
+        {&E::GetOnMemoryChange, &E::SetOnMemoryChange,
+         [](F& f, E* e) {
+             Q_EMIT f.memoryChange();
+             if (AssignChanged(f.memory_, e->GetMemoryValue()))
+                 Q_EMIT f.memoryChanged(static_cast<double>(f.memory_));
+         }},
+        {&E::GetOnDecimalPlacesChange, &E::SetOnDecimalPlacesChange,
+         [](F& f, E* e) {
+             Q_EMIT f.decimalPlacesChange();
+             SignalIfChanged(&f, f.decimalPlaces_, int {e->GetDecimalPlaces()},
+                             &F::decimalPlacesChanged);
+         }},
+        {&E::GetOnAngleModeChange, &E::SetOnAngleModeChange,
+         [](F& f, E* e) {
+             Q_EMIT f.angleModeChange();
+             SignalIfChanged(&f, f.angleMode_, e->GetAngleMode(), &F::angleModeChanged);
+         }},
+        {&E::GetOnSetToggles, &E::SetOnSetToggles,
+         [](F& f, E*) {
+             Q_EMIT f.setToggles();
+             Q_EMIT f.togglesChange();
+         }},
+        {&E::GetOnClearToggles, &E::SetOnClearToggles,
+         [](F& f, E*) {
+             Q_EMIT f.clearToggles();
+             Q_EMIT f.togglesChange();
+         }},
+    };
+};
+
 TQORCalcEngineObject::TQORCalcEngineObject(QObject* parent)
-    : QObject(parent), owned_(std::make_unique<TQORCalcEngine>()), engine_(owned_.get())
+    : TQORCalcEngineObject(*new TQORCalcEngine, parent)
 {
-    Attach();
+    owned_.reset(engine_);
 }
 
 TQORCalcEngineObject::TQORCalcEngineObject(TQORCalcEngine& engine, QObject* parent)
-    : QObject(parent), engine_(&engine)
+    : QObject(parent), engine_(&engine), decimalPlaces_(engine.GetDecimalPlaces()),
+      angleMode_(engine.GetAngleMode()), memory_(engine.GetMemoryValue())
 {
-    Attach();
+    TakeSlots(*this, engine, TEvents::Slots);
 }
 
 TQORCalcEngineObject::~TQORCalcEngineObject()
 {
     // A host's engine lives on: it must not call into a front that is gone.
-    if (!owned_) {
-        for (const auto setter : CalcEventSetters)
-            (engine_->*setter)({});
-    }
+    if (!owned_)
+        GiveSlotsBack(*this, *engine_, TEvents::Slots);
 }
 
-void TQORCalcEngineObject::Attach()
+TQORCalcEngineObject* TQORCalcEngineObject::FrontOf(const TQORCalcEngine& engine)
 {
-    decimalPlaces_ = engine_->GetDecimalPlaces();
-    angleMode_ = engine_->GetAngleMode();
-    memory_ = engine_->GetMemoryValue();
-    for (const auto& relay : CalcRelays)
-        (engine_->*relay.Setter)(
-            [this, signal = relay.Signal](TQORCalcEngine*) { (this->*signal)(); });
-    engine_->SetOnMemoryChange([this](TQORCalcEngine* engine) {
-        Q_EMIT memoryChange();
-        if (AssignChanged(memory_, engine->GetMemoryValue()))
-            Q_EMIT memoryChanged(static_cast<double>(memory_));
-    });
-    engine_->SetOnDecimalPlacesChange([this](TQORCalcEngine* engine) {
-        Q_EMIT decimalPlacesChange();
-        SignalIfChanged(this, decimalPlaces_, int {engine->GetDecimalPlaces()},
-                        &TQORCalcEngineObject::decimalPlacesChanged);
-    });
-    engine_->SetOnAngleModeChange([this](TQORCalcEngine* engine) {
-        Q_EMIT angleModeChange();
-        SignalIfChanged(this, angleMode_, engine->GetAngleMode(),
-                        &TQORCalcEngineObject::angleModeChanged);
-    });
-    engine_->SetOnSetToggles([this](TQORCalcEngine*) {
-        Q_EMIT setToggles();
-        Q_EMIT togglesChange();
-    });
-    engine_->SetOnClearToggles([this](TQORCalcEngine*) {
-        Q_EMIT clearToggles();
-        Q_EMIT togglesChange();
-    });
+    return FindFront<TQORCalcEngineObject>(engine, TEvents::Slots);
 }
 
 QString TQORCalcEngineObject::GetDisplayText() const { return ToQString(engine_->GetDisplayStr()); }
@@ -128,12 +172,19 @@ QString TQORCalcEngineObject::GetMemoryText() const
 }
 QString TQORCalcEngineObject::GetLastError() const { return ToQString(engine_->GetLastError()); }
 
-QStringList TQORCalcEngineObject::GetTape() const
+int TQORCalcEngineObject::GetTapeCount() const { return engine_->GetHistoryLength(); }
+
+QString TQORCalcEngineObject::GetTapeLine(int index) const
 {
-    QStringList lines;
-    for (const auto& line : engine_->GetHistory())
-        lines << ToQString(line);
-    return lines;
+    const auto& lines = engine_->GetHistory();
+    return index >= 0 && static_cast<std::size_t>(index) < lines.size()
+        ? ToQString(lines[static_cast<std::size_t>(index)])
+        : QString();
+}
+
+const QStringList& TQORCalcEngineObject::ReadTape() const
+{
+    return tape_.Read([this] { return GetTapeCount(); }, [this](int i) { return GetTapeLine(i); });
 }
 
 void TQORCalcEngineObject::SetDecimalPlaces(int value)
@@ -161,50 +212,67 @@ bool TQORCalcEngineObject::PressKey(const QString& name)
 
 // ---- TQORProgCalcEngineObject --------------------------------------------------------------
 
+struct TQORProgCalcEngineObject::TEvents {
+    using TGetter = TQORProgCalcNotifyEvent (IQORProgCalcEngine::*)() const;
+    using TSlot = TEventSlot<TQORProgCalcEngineObject, IQORProgCalcEngine, TGetter>;
+    using F = TQORProgCalcEngineObject;
+    using E = IQORProgCalcEngine;
+    static constexpr TSlot Slots[] = {
+        {&E::GetOnDisplayChange, &E::SetOnDisplayChange,
+         [](F& f, E*) { Q_EMIT f.displayChange(); }},
+        {&E::GetOnHistoryChange, &E::SetOnHistoryChange,
+         [](F& f, E*) { Q_EMIT f.historyChange(); }},
+        {&E::GetOnError, &E::SetOnError, [](F& f, E*) { Q_EMIT f.error(); }},
+        {&E::GetOnMemoryChange, &E::SetOnMemoryChange,
+         [](F& f, E* e) {
+             Q_EMIT f.memoryChange();
+             SignalIfChanged(&f, f.memory_, e->GetMemoryValue(), &F::memoryChanged);
+         }},
+        // The tape shows its lines in today's base and spacing: these rewrite it.
+        {&E::GetOnBaseDisplayChange, &E::SetOnBaseDisplayChange,
+         [](F& f, E* e) {
+             f.tape_.MarkRewritten();
+             Q_EMIT f.baseDisplayChange();
+             SignalIfChanged(&f, f.baseDisplay_, e->GetBaseDisplay(), &F::baseDisplayChanged);
+         }},
+        {&E::GetOnBitSizeChange, &E::SetOnBitSizeChange,
+         [](F& f, E* e) {
+             f.tape_.MarkRewritten();
+             Q_EMIT f.bitSizeChange();
+             SignalIfChanged(&f, f.bitSize_, e->GetBitSize(), &F::bitSizeChanged);
+         }},
+        {&E::GetOnSpacingChange, &E::SetOnSpacingChange,
+         [](F& f, E*) {
+             f.tape_.MarkRewritten();
+             Q_EMIT f.spacingChange();
+         }},
+        {&E::GetOnSizeChangeChange, &E::SetOnSizeChangeChange,
+         [](F& f, E*) { Q_EMIT f.sizeChangeChange(); }},
+    };
+};
+
 TQORProgCalcEngineObject::TQORProgCalcEngineObject(QObject* parent)
-    : QObject(parent), owned_(std::make_unique<TQORProgCalcEngine>()), engine_(owned_.get())
+    : TQORProgCalcEngineObject(*new TQORProgCalcEngine, parent)
 {
-    Attach();
+    owned_.reset(engine_);
 }
 
 TQORProgCalcEngineObject::TQORProgCalcEngineObject(IQORProgCalcEngine& engine, QObject* parent)
-    : QObject(parent), engine_(&engine)
+    : QObject(parent), engine_(&engine), baseDisplay_(engine.GetBaseDisplay()),
+      bitSize_(engine.GetBitSize()), memory_(engine.GetMemoryValue())
 {
-    Attach();
+    TakeSlots(*this, engine, TEvents::Slots);
 }
 
 TQORProgCalcEngineObject::~TQORProgCalcEngineObject()
 {
-    if (!owned_) {
-        for (const auto setter : ProgEventSetters)
-            (engine_->*setter)({});
-    }
+    if (!owned_)
+        GiveSlotsBack(*this, *engine_, TEvents::Slots);
 }
 
-void TQORProgCalcEngineObject::Attach()
+TQORProgCalcEngineObject* TQORProgCalcEngineObject::FrontOf(const IQORProgCalcEngine& engine)
 {
-    baseDisplay_ = engine_->GetBaseDisplay();
-    bitSize_ = engine_->GetBitSize();
-    memory_ = engine_->GetMemoryValue();
-    for (const auto& relay : ProgRelays) {
-        (engine_->*relay.Setter)(
-            [this, signal = relay.Signal](IQORProgCalcEngine*) { (this->*signal)(); });
-    }
-    engine_->SetOnMemoryChange([this](IQORProgCalcEngine* engine) {
-        Q_EMIT memoryChange();
-        SignalIfChanged(this, memory_, engine->GetMemoryValue(),
-                        &TQORProgCalcEngineObject::memoryChanged);
-    });
-    engine_->SetOnBaseDisplayChange([this](IQORProgCalcEngine* engine) {
-        Q_EMIT baseDisplayChange();
-        SignalIfChanged(this, baseDisplay_, engine->GetBaseDisplay(),
-                        &TQORProgCalcEngineObject::baseDisplayChanged);
-    });
-    engine_->SetOnBitSizeChange([this](IQORProgCalcEngine* engine) {
-        Q_EMIT bitSizeChange();
-        SignalIfChanged(this, bitSize_, engine->GetBitSize(),
-                        &TQORProgCalcEngineObject::bitSizeChanged);
-    });
+    return FindFront<TQORProgCalcEngineObject>(engine, TEvents::Slots);
 }
 
 QString TQORProgCalcEngineObject::GetDisplayText() const
@@ -220,13 +288,26 @@ QString TQORProgCalcEngineObject::GetLastError() const
     return ToQString(engine_->GetLastError());
 }
 
-QStringList TQORProgCalcEngineObject::GetTape() const
+int TQORProgCalcEngineObject::GetTapeCount() const { return engine_->GetHistoryLength(); }
+
+QString TQORProgCalcEngineObject::GetTapeLine(int index) const
 {
-    QStringList lines;
-    const std::int32_t count = engine_->GetHistoryLength();
-    for (std::int32_t i = 0; i < count; ++i)
-        lines << ToQString(engine_->GetHistoryEntry(static_cast<std::uint16_t>(i)));
-    return lines;
+    if (index < 0 || index >= GetTapeCount())
+        return {};
+    if (index <= std::numeric_limits<std::uint16_t>::max())
+        return ToQString(engine_->GetHistoryEntry(static_cast<std::uint16_t>(index)));
+    // The engine's indexed read stops at 65535: further lines are read through its cursor,
+    // which is put back (they come as written, in the spacing of their time).
+    const std::int32_t position = engine_->GetHistoryPosition();
+    engine_->SetHistoryPosition(index - 1);
+    const std::string line = engine_->GetNextHistoryEntry();
+    engine_->SetHistoryPosition(position);
+    return ToQString(line);
+}
+
+const QStringList& TQORProgCalcEngineObject::ReadTape() const
+{
+    return tape_.Read([this] { return GetTapeCount(); }, [this](int i) { return GetTapeLine(i); });
 }
 
 void TQORProgCalcEngineObject::SetBaseDisplay(TQORBaseDisplay value)

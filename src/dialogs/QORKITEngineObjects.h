@@ -9,8 +9,13 @@
 // dialog's engine connects to that front and must not assign the raw engine's OnX.
 //
 // A front either owns its engine (the constructor without an engine) or refers to one the host
-// owns; a referred engine must outlive the front, which gives the engine's OnX slots back empty
-// when it is destroyed.
+// owns; a referred engine must outlive the front. Handlers the host assigned before the front
+// was made keep running (before the front's signal), and the front gives them back to the
+// engine's slots when it is destroyed. FrontOf() finds the front an engine has.
+//
+// The tape is read incrementally: GetTapeCount()/GetTapeLine() go straight to the engine, and
+// ReadTape() keeps the lines it has read and only adds the ones written since, so following a
+// long tape costs the new lines, not the whole tape, per key.
 #pragma once
 
 #include "QORKITCalcEngine.h"
@@ -23,9 +28,29 @@
 #include <QString>
 #include <QStringList>
 
+#include <cstdint>
 #include <memory>
 
 namespace qorkit {
+
+namespace dialogs_internal {
+
+// The lines of an engine's tape as last read. Read() brings them up to date: lines written
+// since are appended; a tape that shrank, whose first or last known line reads differently, or
+// that was marked rewritten, is read again in full and gets a new generation.
+class TTapeCache {
+public:
+    template<class CountFn, class LineFn> const QStringList& Read(CountFn count, LineFn line);
+    void MarkRewritten() noexcept { rewritten_ = true; }
+    int Generation() const noexcept { return generation_; }
+
+private:
+    QStringList lines_;
+    int generation_ = 0;
+    bool rewritten_ = false;
+};
+
+} // namespace dialogs_internal
 
 class QORKIT_WIDGETS_EXPORT TQORCalcEngineObject : public QObject {
     Q_OBJECT
@@ -48,7 +73,12 @@ public:
     explicit TQORCalcEngineObject(TQORCalcEngine& engine, QObject* parent = nullptr);
     ~TQORCalcEngineObject() override;
 
+    // The front following `engine`, or nullptr when it has none.
+    static TQORCalcEngineObject* FrontOf(const TQORCalcEngine& engine);
+
     TQORCalcEngine& GetEngine() const { return *engine_; }
+    // True for a front made without an engine: the engine goes with it.
+    bool GetOwnsEngine() const { return owned_ != nullptr; }
 
     QString GetDisplayText() const;
     int GetDecimalPlaces() const { return engine_->GetDecimalPlaces(); }
@@ -60,8 +90,15 @@ public:
     // NaN and infinities are ignored.
     void SetMemory(double value);
     QString GetMemoryText() const;
-    // The paper tape, one line an entry.
-    QStringList GetTape() const;
+    // The paper tape, one line an entry (kept between reads: see ReadTape).
+    QStringList GetTape() const { return ReadTape(); }
+    // Lines on the tape, and line `index` ("" outside the tape), read from the engine.
+    int GetTapeCount() const;
+    QString GetTapeLine(int index) const;
+    // The tape brought up to date at the cost of the lines written since the last read.
+    const QStringList& ReadTape() const;
+    // Changes when ReadTape() had to read the tape again from its start (cleared, rewritten).
+    int GetTapeGeneration() const { return tape_.Generation(); }
     QString GetLastError() const;
     bool GetInv() const { return engine_->GetIsInv(); }
     bool GetHyp() const { return engine_->GetIsHyp(); }
@@ -89,13 +126,14 @@ Q_SIGNALS:
     void memoryChanged(double memory);
 
 private:
-    void Attach();
+    struct TEvents; // the engine's event slots and what the front does on each
 
     std::unique_ptr<TQORCalcEngine> owned_;
     TQORCalcEngine* engine_;
     int decimalPlaces_;
     TQORAngleMode angleMode_;
     Extended memory_;
+    mutable dialogs_internal::TTapeCache tape_;
 };
 
 class QORKIT_WIDGETS_EXPORT TQORProgCalcEngineObject : public QObject {
@@ -116,7 +154,12 @@ public:
     explicit TQORProgCalcEngineObject(IQORProgCalcEngine& engine, QObject* parent = nullptr);
     ~TQORProgCalcEngineObject() override;
 
+    // The front following `engine`, or nullptr when it has none.
+    static TQORProgCalcEngineObject* FrontOf(const IQORProgCalcEngine& engine);
+
     IQORProgCalcEngine& GetEngine() const { return *engine_; }
+    // True for a front made without an engine: the engine goes with it.
+    bool GetOwnsEngine() const { return owned_ != nullptr; }
 
     QString GetDisplayText() const;
     TQORBaseDisplay GetBaseDisplay() const { return engine_->GetBaseDisplay(); }
@@ -126,7 +169,13 @@ public:
     qint64 GetMemory() const { return engine_->GetMemoryValue(); }
     void SetMemory(qint64 value);
     QString GetMemoryText() const;
-    QStringList GetTape() const;
+    // The tape, as the floating-point front gives it. The lines show in today's base and
+    // spacing: changing those rewrites the tape (a new generation).
+    QStringList GetTape() const { return ReadTape(); }
+    int GetTapeCount() const;
+    QString GetTapeLine(int index) const;
+    const QStringList& ReadTape() const;
+    int GetTapeGeneration() const { return tape_.Generation(); }
     QString GetLastError() const;
 
 public Q_SLOTS:
@@ -151,13 +200,14 @@ Q_SIGNALS:
     void memoryChanged(qint64 memory);
 
 private:
-    void Attach();
+    struct TEvents;
 
     std::unique_ptr<IQORProgCalcEngine> owned_;
     IQORProgCalcEngine* engine_;
     TQORBaseDisplay baseDisplay_;
     TQORBitSize bitSize_;
     std::int64_t memory_;
+    mutable dialogs_internal::TTapeCache tape_;
 };
 
 } // namespace qorkit

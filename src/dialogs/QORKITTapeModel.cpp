@@ -6,70 +6,72 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QMimeData>
-#include <QPointer>
 #include <QTimer>
 
-#include <algorithm>
-#include <utility>
+#include <type_traits>
 
 namespace qorkit {
 
-namespace {
-
-// Puts `call` behind whatever handler the engine has for an event; the model may go first.
-template<class Engine, class Handler>
-Handler Chain(Handler previous, QPointer<TQORTapeModel> model, void (TQORTapeModel::*call)())
+TQORTapeModel::TQORTapeModel(TQORCalcEngineObject& front, QObject* parent)
+    : QAbstractListModel(parent)
 {
-    return [previous = std::move(previous), model, call](Engine* engine) {
-        if (previous)
-            previous(engine);
-        if (model)
-            (model.data()->*call)();
-    };
+    Follow(front);
 }
 
-} // namespace
-
-TQORTapeModel::TQORTapeModel(TLines lines, std::function<TQORTapeReader()> makeReader,
-                             QObject* parent)
-    : QAbstractListModel(parent), lines_(std::move(lines)), makeReader_(std::move(makeReader)),
-      reader_(makeReader_())
-{ }
-
-TQORTapeModel::TQORTapeModel(TQORCalcEngine& engine, QObject* parent)
-    : TQORTapeModel([&engine] { return engine.GetHistory(); }, [] { return TQORTapeReader(); },
-                    parent)
+TQORTapeModel::TQORTapeModel(TQORProgCalcEngineObject& front, QObject* parent)
+    : QAbstractListModel(parent)
 {
-    const QPointer<TQORTapeModel> self(this);
-    engine.SetOnHistoryChange(
-        Chain<TQORCalcEngine>(engine.GetOnHistoryChange(), self, &TQORTapeModel::Sync));
-    // All clear empties the tape after its display event: look again once the key is done.
-    engine.SetOnDisplayChange(
-        Chain<TQORCalcEngine>(engine.GetOnDisplayChange(), self, &TQORTapeModel::ScheduleSync));
-    Sync();
+    Follow(front);
+}
+
+TQORTapeModel::TQORTapeModel(TQORCalcEngine& engine, QObject* parent) : QAbstractListModel(parent)
+{
+    FollowEngine<TQORCalcEngineObject>(engine);
 }
 
 TQORTapeModel::TQORTapeModel(IQORProgCalcEngine& engine, QObject* parent)
-    : TQORTapeModel(
-        [&engine] {
-            std::vector<std::string> lines;
-            const auto count = std::max(engine.GetHistoryLength(), 0);
-            lines.reserve(static_cast<std::size_t>(count));
-            for (std::int32_t i = 0; i < count; ++i)
-                lines.push_back(engine.GetHistoryEntry(static_cast<std::uint16_t>(i)));
-            return lines;
-        },
-        [&engine] { return ProgTapeReader(engine.GetBaseDisplay(), engine.GetBitSize()); }, parent)
+    : QAbstractListModel(parent)
 {
-    const QPointer<TQORTapeModel> self(this);
-    engine.SetOnHistoryChange(
-        Chain<IQORProgCalcEngine>(engine.GetOnHistoryChange(), self, &TQORTapeModel::Sync));
-    engine.SetOnDisplayChange(
-        Chain<IQORProgCalcEngine>(engine.GetOnDisplayChange(), self, &TQORTapeModel::ScheduleSync));
-    Sync();
+    FollowEngine<TQORProgCalcEngineObject>(engine);
 }
 
 TQORTapeModel::~TQORTapeModel() = default;
+
+template<class Front> void TQORTapeModel::Follow(Front& front)
+{
+    front_ = &front;
+    readTape_ = [&front]() -> const QStringList& { return front.ReadTape(); };
+    generation_ = [&front] { return front.GetTapeGeneration(); };
+    std::vector<void (Front::*)()> later {&Front::displayChange, &Front::error,
+                                          &Front::memoryChange};
+    if constexpr (std::is_same_v<Front, TQORProgCalcEngineObject>) {
+        makeReader_
+            = [&front] { return ProgTapeReader(front.GetBaseDisplay(), front.GetBitSize()); };
+        later.insert(later.end(),
+                     {&Front::baseDisplayChange, &Front::bitSizeChange, &Front::spacingChange});
+    } else {
+        makeReader_ = [] { return TQORTapeReader(); };
+    }
+    connect(&front, &Front::historyChange, this, &TQORTapeModel::Sync);
+    // All clear empties the tape without a tape event, before its display event: look again
+    // once the key is done.
+    for (const auto signal : later)
+        connect(&front, signal, this, &TQORTapeModel::ScheduleSync);
+    seenGeneration_ = -1;
+    Sync();
+}
+
+template<class Front, class Engine> void TQORTapeModel::FollowEngine(Engine& engine)
+{
+    Front* front = Front::FrontOf(engine);
+    if (!front) {
+        front = new Front(engine, this);
+    } else if (!front->GetOwnsEngine()) {
+        // Somebody else's front of a host's engine: when it goes, follow through another.
+        connect(front, &QObject::destroyed, this, [this, &engine] { FollowEngine<Front>(engine); });
+    }
+    Follow(*front);
+}
 
 int TQORTapeModel::rowCount(const QModelIndex& parent) const
 {
@@ -147,35 +149,34 @@ void TQORTapeModel::ScheduleSync()
 
 void TQORTapeModel::Sync()
 {
-    std::vector<std::string> lines = lines_();
-    // New lines only when what was seen is still the start of the tape.
-    const bool grown
-        = lines.size() >= seen_.size() && std::equal(seen_.begin(), seen_.end(), lines.begin());
-    if (!grown) {
-        seen_ = std::move(lines);
-        Reset();
+    if (!front_)
+        return;
+    const QStringList& lines = readTape_();
+    if (const int generation = generation_(); generation != seenGeneration_) {
+        seenGeneration_ = generation;
+        Reset(lines);
         return;
     }
-    if (lines.size() == seen_.size())
-        return;
     const int first = GetCount();
-    const int last = static_cast<int>(lines.size()) - 1;
-    beginInsertRows(QModelIndex(), first, last);
-    for (std::size_t i = seen_.size(); i < lines.size(); ++i)
-        rows_.push_back(reader_.Read(lines[i]));
-    seen_ = std::move(lines);
+    const auto total = static_cast<int>(lines.size());
+    if (total <= first)
+        return;
+    beginInsertRows(QModelIndex(), first, total - 1);
+    for (int i = first; i < total; ++i)
+        rows_.push_back(reader_.Read(lines[i].toStdString()));
     endInsertRows();
     Q_EMIT countChanged();
 }
 
-void TQORTapeModel::Reset()
+void TQORTapeModel::Reset(const QStringList& lines)
 {
     const int before = GetCount();
     beginResetModel();
     reader_ = makeReader_();
     rows_.clear();
-    for (const auto& line : seen_)
-        rows_.push_back(reader_.Read(line));
+    rows_.reserve(static_cast<std::size_t>(lines.size()));
+    for (const auto& line : lines)
+        rows_.push_back(reader_.Read(line.toStdString()));
     endResetModel();
     if (GetCount() != before)
         Q_EMIT countChanged();

@@ -2,26 +2,25 @@
 // the keys, for QML (roles "display", "number", "operator", "kind", "numberText") and for
 // export (plain text, CSV, the clipboard).
 //
-// The model follows its engine live: it listens to the engine's tape and display events and
-// picks up new lines as they are written (rows are inserted, so views keep their place); a
-// cleared or rewritten tape resets the model. The engines call one handler per event, so the
-// model chains itself behind the handlers the engine has when the model is made: create it
-// after the engine's owner has set its own handlers, or feed it with Sync() from them. A
-// handler chained this way outlives the model harmlessly: it only passes the event on then.
+// The model follows its engine live through the engine's front (TQORCalcEngineObject,
+// TQORProgCalcEngineObject): a new tape line inserts a row, so views keep their place, and only
+// a cleared or rewritten tape resets the model. Made on an engine, the model uses the front the
+// engine has or makes one of its own; any number of models can follow one engine. The model
+// looks at the tape on the front's tape signal at once and, once the key is done, after any of
+// its other signals, so it keeps up even when the host takes the engine's tape slot for itself.
 #pragma once
 
-#include "QORKITCalcEngine.h"
-#include "QORKITProgCalcEngine.h"
+#include "QORKITEngineObjects.h"
 #include "QORKITTape.h"
 #include "qorkit_widgets_export.h"
 
 #include <QAbstractListModel>
 #include <QByteArray>
 #include <QHash>
+#include <QPointer>
 #include <QString>
 
 #include <functional>
-#include <string>
 #include <vector>
 
 namespace qorkit {
@@ -41,7 +40,10 @@ public:
     };
     Q_ENUM(TapeRole)
 
-    // Follows the tape of `engine`, which must outlive the model.
+    // Follows the tape of `front`, which must outlive the model.
+    explicit TQORTapeModel(TQORCalcEngineObject& front, QObject* parent = nullptr);
+    explicit TQORTapeModel(TQORProgCalcEngineObject& front, QObject* parent = nullptr);
+    // Follows the tape of `engine` (which must outlive the model) through its front.
     explicit TQORTapeModel(TQORCalcEngine& engine, QObject* parent = nullptr);
     explicit TQORTapeModel(IQORProgCalcEngine& engine, QObject* parent = nullptr);
     ~TQORTapeModel() override;
@@ -70,16 +72,18 @@ Q_SIGNALS:
     void countChanged();
 
 private:
-    using TLines = std::function<std::vector<std::string>()>;
-    TQORTapeModel(TLines lines, std::function<TQORTapeReader()> makeReader, QObject* parent);
+    template<class Front> void Follow(Front& front);
+    template<class Front, class Engine> void FollowEngine(Engine& engine);
     void ScheduleSync();
-    void Reset();
+    void Reset(const QStringList& lines);
 
-    TLines lines_;
+    QPointer<QObject> front_;
+    std::function<const QStringList&()> readTape_;
+    std::function<int()> generation_;
     std::function<TQORTapeReader()> makeReader_;
     TQORTapeReader reader_;
-    std::vector<std::string> seen_;
     std::vector<TQORTapeRow> rows_;
+    int seenGeneration_ = -1;
     bool syncPending_ = false;
 };
 
