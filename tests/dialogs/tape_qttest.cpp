@@ -1,6 +1,7 @@
 // The tape model over both engines, and the tape view of the scientific and programmer's
 // dialogs.
 #include "CalcDialogTest.h"
+#include "QORKITEngineObjects.h"
 #include "QORKITProgCalculator.h"
 #include "QORKITSciCalculator.h"
 #include "QORKITTapeModel.h"
@@ -17,6 +18,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <type_traits>
 
 namespace qorkit {
@@ -178,6 +180,179 @@ TEST_F(TapeModelTest, ComponentOpensTheDialogWithItsTape)
     });
     calculator.Execute();
     EXPECT_TRUE(shown);
+}
+
+} // namespace
+} // namespace qorkit
+
+// Following the engine through its front.
+namespace qorkit {
+namespace {
+
+// The model's lines, as shown.
+QStringList Lines(const TQORTapeModel& model)
+{
+    QStringList lines;
+    for (int row = 0; row < model.rowCount(); ++row)
+        lines << Role(model, row, Qt::DisplayRole).toString();
+    return lines;
+}
+
+QStringList EngineLines(const TQORCalcEngine& engine)
+{
+    QStringList lines;
+    for (const auto& line : engine.GetHistory())
+        lines << QString::fromStdString(line);
+    return lines;
+}
+
+TEST_F(TapeModelTest, KeysOnTheFrontInsertOneRowALine)
+{
+    TQORCalcEngineObject front;
+    TQORTapeModel model(front);
+    QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
+    QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
+    for (const char* key : {"2", "+", "3", "*", "4", "="})
+        front.PressKey(QString::fromLatin1(key));
+    QCoreApplication::processEvents();
+    const QStringList tape = EngineLines(front.GetEngine());
+    ASSERT_FALSE(tape.isEmpty());
+    EXPECT_EQ(inserted.count(), tape.size());
+    EXPECT_EQ(reset.count(), 0);
+    EXPECT_EQ(Lines(model), tape);
+    EXPECT_EQ(front.GetTape(), tape);
+    const auto count = static_cast<int>(tape.size());
+    EXPECT_EQ(front.GetTapeCount(), count);
+    EXPECT_EQ(front.GetTapeLine(count - 1), tape.last());
+    EXPECT_TRUE(front.GetTapeLine(-1).isEmpty());
+    EXPECT_TRUE(front.GetTapeLine(count).isEmpty());
+
+    // All clear: one reset, and the next line starts the tape again.
+    front.PressKey(QStringLiteral("ac"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return reset.count() == 1; }, 1000));
+    EXPECT_EQ(model.rowCount(), 0);
+    EXPECT_TRUE(front.GetTape().isEmpty());
+    front.PressKey(QStringLiteral("7"));
+    front.PressKey(QStringLiteral("+"));
+    EXPECT_EQ(Lines(model), EngineLines(front.GetEngine()));
+    EXPECT_EQ(front.GetTape(), EngineLines(front.GetEngine()));
+}
+
+TEST_F(TapeModelTest, AHostTakingTheTapeSlotLaterDoesNotCutTheModelOff)
+{
+    TQORCalcEngine engine;
+    TQORTapeModel model(engine);
+    QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    int hostSaw = 0;
+    engine.SetOnHistoryChange([&](TQORCalcEngine*) { ++hostSaw; });
+    engine.InputValue(6);
+    engine.DoDivide();
+    engine.InputValue(4);
+    engine.DoEquals();
+    EXPECT_GT(hostSaw, 0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Lines(model) == EngineLines(engine); }, 1000));
+    EXPECT_EQ(model.rowCount(), engine.GetHistoryLength());
+}
+
+TEST_F(TapeModelTest, TwoModelsShareTheEnginesFrontAndOutliveEachOther)
+{
+    TQORCalcEngine engine;
+    bool hostDisplay = false;
+    engine.SetOnDisplayChange([&](TQORCalcEngine*) { hostDisplay = true; });
+    auto first = std::make_unique<TQORTapeModel>(engine);
+    TQORTapeModel second(engine);
+    QAbstractItemModelTester tester(&second, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    TQORCalcEngineObject* front = TQORCalcEngineObject::FrontOf(engine);
+    ASSERT_NE(front, nullptr);
+    engine.InputValue(1);
+    engine.DoAdd();
+    EXPECT_TRUE(hostDisplay);
+    EXPECT_EQ(Lines(*first), EngineLines(engine));
+    EXPECT_EQ(Lines(second), EngineLines(engine));
+
+    // The first model made the front; the second goes on through a new one.
+    first.reset();
+    hostDisplay = false;
+    engine.InputValue(2);
+    engine.DoEquals();
+    EXPECT_TRUE(hostDisplay);
+    EXPECT_EQ(Lines(second), EngineLines(engine));
+    EXPECT_NE(TQORCalcEngineObject::FrontOf(engine), nullptr);
+}
+
+TEST_F(TapeModelTest, AFrontKeepsTheHostsHandlersAndGivesThemBack)
+{
+    TQORProgCalcEngine engine;
+    int hostLines = 0;
+    engine.SetOnHistoryChange([&](IQORProgCalcEngine*) { ++hostLines; });
+    {
+        TQORProgCalcEngineObject front(engine);
+        EXPECT_EQ(TQORProgCalcEngineObject::FrontOf(engine), &front);
+        QSignalSpy lines(&front, &TQORProgCalcEngineObject::historyChange);
+        engine.InputValue(5);
+        EXPECT_EQ(hostLines, 1);
+        EXPECT_EQ(lines.count(), 1);
+    }
+    EXPECT_EQ(TQORProgCalcEngineObject::FrontOf(engine), nullptr);
+    EXPECT_FALSE(engine.GetOnDisplayChange());
+    engine.InputValue(6);
+    EXPECT_EQ(hostLines, 2);
+}
+
+TEST_F(TapeModelTest, ProgrammersTapeRegroupedBySpacingResetsTheModel)
+{
+    TQORProgCalcEngineObject front;
+    IQORProgCalcEngine& engine = front.GetEngine();
+    engine.SetBaseDisplay(bdHexadecimal);
+    TQORTapeModel model(front);
+    QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    engine.PaperLine();
+    engine.InputValue(0x12345678);
+    engine.DoAdd();
+    const QStringList before = Lines(model);
+    QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
+    QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
+    // Grouping by bytes rewrites the lines already on the tape: one reset, no new rows.
+    engine.SetSpacing(psByte);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return reset.count() == 1; }, 1000));
+    EXPECT_EQ(inserted.count(), 0);
+    const QStringList after = Lines(model);
+    ASSERT_EQ(after.size(), before.size());
+    EXPECT_NE(after, before);
+    for (int row = 0; row < after.size(); ++row)
+        EXPECT_EQ(after.at(row).toStdString(),
+                  engine.GetHistoryEntry(static_cast<std::uint16_t>(row)));
+    EXPECT_EQ(front.GetTape(), after);
+    EXPECT_EQ(Role(model, 1, TQORTapeModel::NumberRole).toLongLong(), 0x12345678);
+}
+
+// A long tape, then one key: one inserted row, no reset, whichever the engine.
+template<class Engine> class LongTapeTest : public test::CalcDialogTest { };
+using Engines = ::testing::Types<TQORCalcEngine, TQORProgCalcEngine>;
+TYPED_TEST_SUITE(LongTapeTest, Engines);
+
+TYPED_TEST(LongTapeTest, OneKeyInsertsOneRow)
+{
+    constexpr int lines = 100'000;
+    TypeParam engine;
+    for (int i = 1; i < lines; ++i)
+        engine.PaperLine();
+    engine.InputValue(7); // the last line: a number, unlike the rules before it
+    engine.SetHistoryPosition(3);
+    TQORTapeModel model(engine);
+    ASSERT_EQ(model.rowCount(), lines);
+    // Lines past the engine's 16-bit index are read too, and its read cursor is left alone.
+    EXPECT_EQ(Role(model, lines - 1, TQORTapeModel::NumberRole).toLongLong(), 7);
+    EXPECT_EQ(engine.GetHistoryPosition(), 3);
+    QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
+    QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
+    engine.InputValue(9);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(inserted.count(), 1);
+    EXPECT_EQ(reset.count(), 0);
+    EXPECT_EQ(model.rowCount(), lines + 1);
+    EXPECT_EQ(Role(model, lines, TQORTapeModel::NumberRole).toLongLong(), 9);
 }
 
 } // namespace
