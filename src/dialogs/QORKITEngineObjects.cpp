@@ -58,6 +58,12 @@ template<class Front, class Engine> struct THook {
     }
 };
 
+// A front's handler of an event it only passes on as its signal.
+template<class Front, class Engine, void (Front::*Signal)()> void Emit(Front& front, Engine*)
+{
+    (front.*Signal)();
+}
+
 // One event slot of an engine and what the front does on it.
 template<class Front, class Engine, class Getter> struct TEventSlot {
     Getter Get;
@@ -105,11 +111,9 @@ struct TQORCalcEngineObject::TEvents {
     using F = TQORCalcEngineObject;
     using E = TQORCalcEngine;
     static constexpr TSlot Slots[] = {
-        {&E::GetOnDisplayChange, &E::SetOnDisplayChange,
-         [](F& f, E*) { Q_EMIT f.displayChange(); }},
-        {&E::GetOnHistoryChange, &E::SetOnHistoryChange,
-         [](F& f, E*) { Q_EMIT f.historyChange(); }},
-        {&E::GetOnError, &E::SetOnError, [](F& f, E*) { Q_EMIT f.error(); }},
+        {&E::GetOnDisplayChange, &E::SetOnDisplayChange, &Emit<F, E, &F::displayChange>},
+        {&E::GetOnHistoryChange, &E::SetOnHistoryChange, &Emit<F, E, &F::historyChange>},
+        {&E::GetOnError, &E::SetOnError, &Emit<F, E, &F::error>},
         {&E::GetOnMemoryChange, &E::SetOnMemoryChange,
          [](F& f, E* e) {
              Q_EMIT f.memoryChange();
@@ -218,11 +222,9 @@ struct TQORProgCalcEngineObject::TEvents {
     using F = TQORProgCalcEngineObject;
     using E = IQORProgCalcEngine;
     static constexpr TSlot Slots[] = {
-        {&E::GetOnDisplayChange, &E::SetOnDisplayChange,
-         [](F& f, E*) { Q_EMIT f.displayChange(); }},
-        {&E::GetOnHistoryChange, &E::SetOnHistoryChange,
-         [](F& f, E*) { Q_EMIT f.historyChange(); }},
-        {&E::GetOnError, &E::SetOnError, [](F& f, E*) { Q_EMIT f.error(); }},
+        {&E::GetOnDisplayChange, &E::SetOnDisplayChange, &Emit<F, E, &F::displayChange>},
+        {&E::GetOnHistoryChange, &E::SetOnHistoryChange, &Emit<F, E, &F::historyChange>},
+        {&E::GetOnError, &E::SetOnError, &Emit<F, E, &F::error>},
         {&E::GetOnMemoryChange, &E::SetOnMemoryChange,
          [](F& f, E* e) {
              Q_EMIT f.memoryChange();
@@ -246,8 +248,7 @@ struct TQORProgCalcEngineObject::TEvents {
              f.tape_.MarkRewritten();
              Q_EMIT f.spacingChange();
          }},
-        {&E::GetOnSizeChangeChange, &E::SetOnSizeChangeChange,
-         [](F& f, E*) { Q_EMIT f.sizeChangeChange(); }},
+        {&E::GetOnSizeChangeChange, &E::SetOnSizeChangeChange, &Emit<F, E, &F::sizeChangeChange>},
     };
 };
 
