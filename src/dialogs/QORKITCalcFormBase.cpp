@@ -21,6 +21,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <unordered_map>
 #include <utility>
 
 namespace qorkit {
@@ -116,6 +117,54 @@ char CharOf(const QKeyEvent& event)
     return static_cast<char>(text[0].unicode());
 }
 
+// The pixel size in which `text` fits `room` pixels in `base` drawn on `device`, or 0 when it
+// fits in `base` itself. Every form of a kind asks the same questions: the answers are kept.
+int FittedCaptionPixels(const QFont& base, const QPaintDevice& device, const QString& text,
+                        qreal room)
+{
+    struct Question {
+        QFont Font;
+        int Dpi;
+        QString Text;
+        qreal Room;
+        bool operator==(const Question&) const = default;
+    };
+    struct QuestionHash {
+        std::size_t operator()(const Question& q) const noexcept
+        {
+            return qHashMulti(0, q.Font, q.Dpi, q.Text, q.Room);
+        }
+    };
+    static std::unordered_map<Question, int, QuestionHash> answers;
+    constexpr std::size_t MaxAnswers = 4096; // languages times fonts times keys, with room
+    Question question {base, device.logicalDpiY(), text, room};
+    if (const auto known = answers.find(question); known != answers.end())
+        return known->second;
+
+    const auto fits = [&](const QFont& font) {
+        return QFontMetricsF(font, &device).horizontalAdvance(text) <= room;
+    };
+    int answer = 0;
+    if (!fits(base)) {
+        // The largest smaller size that fits, at least MinCaptionPixels; a font already that
+        // small keeps its size.
+        const int full = QFontInfo(base).pixelSize();
+        answer = full - 1 >= MinCaptionPixels ? MinCaptionPixels : full;
+        QFont font = base;
+        for (int pixels = full - 1; pixels > MinCaptionPixels; --pixels) {
+            font.setPixelSize(pixels);
+            if (fits(font)) {
+                answer = pixels;
+                break;
+            }
+        }
+    }
+    if (answers.size() >= MaxAnswers)
+        answers.clear();
+    answers.emplace(std::move(question), answer);
+    return answer;
+}
+
 } // namespace
 
 TQORCalcFormBase::TQORCalcFormBase(QWidget* parent, TQORFormGeometry geometry, QFont keyFont)
@@ -170,12 +219,30 @@ QToolButton* TQORCalcFormBase::NewKey(const TQORKeyLook& look)
         button->setIconSize(QSize(16, 16));
     }
     keyTexts_.push_back({button, look});
-    if (look.Caption != nullptr)
-        button->setText(ToQString(look.Caption()));
+    // The form's first UpdateLanguage gives the keys made before it their texts.
+    if (languageApplied_)
+        ApplyKeyTexts(keyTexts_.back());
     FitKeyCaption(button);
-    if (look.Hint != nullptr)
-        button->setToolTip(ToQString(look.Hint()));
     return button;
+}
+
+void TQORCalcFormBase::ApplyKeyTexts(const KeyText& key) const
+{
+    QToolButton* button = key.Button;
+    if (key.Look.Caption != nullptr)
+        button->setText(ToQString(key.Look.Caption()));
+    if (key.Look.Hint != nullptr) {
+        const QString hint = ToQString(key.Look.Hint());
+        if (button->toolTip() != hint)
+            button->setToolTip(hint);
+    }
+    const std::string name = button->objectName().toStdString();
+    const QString accessibleName = ToQString(KeyAccessibleName(name, ProgrammersKeys()));
+    if (button->accessibleName() != accessibleName)
+        button->setAccessibleName(accessibleName);
+    const QString description = ToQString(KeyAccessibleDescription(name, ProgrammersKeys()));
+    if (button->accessibleDescription() != description)
+        button->setAccessibleDescription(description);
 }
 
 void TQORCalcFormBase::UpdateLanguage()
@@ -190,20 +257,11 @@ void TQORCalcFormBase::UpdateLanguage()
         for (auto* action : TapeView->actions())
             action->setText(ToQString(rsTapeCopy()));
     }
-    for (const auto& key : keyTexts_) {
-        if (key.Look.Caption != nullptr)
-            key.Button->setText(ToQString(key.Look.Caption()));
-        if (key.Look.Hint != nullptr)
-            key.Button->setToolTip(ToQString(key.Look.Hint()));
-    }
+    languageApplied_ = true;
+    for (const auto& key : keyTexts_)
+        ApplyKeyTexts(key);
     ValueDisplay->setToolTip(ToQString(rsValueHint()));
     MemoryDisplay->setToolTip(ToQString(rsMemoryHint()));
-    for (const auto& key : keyTexts_) {
-        const std::string name = key.Button->objectName().toStdString();
-        key.Button->setAccessibleName(ToQString(KeyAccessibleName(name, ProgrammersKeys())));
-        key.Button->setAccessibleDescription(
-            ToQString(KeyAccessibleDescription(name, ProgrammersKeys())));
-    }
     ValueDisplay->setAccessibleName(ToQString(rsDisplayAccName()));
     ValueDisplay->setAccessibleDescription(ToQString(rsDisplayAccDescription()));
     MemoryDisplay->setAccessibleName(ToQString(rsMemoryAccName()));
@@ -224,27 +282,23 @@ void TQORCalcFormBase::SetKeyText(QToolButton* key, const QString& text)
 
 void TQORCalcFormBase::FitKeyCaption(QToolButton* key) const
 {
-    if (key->toolButtonStyle() != Qt::ToolButtonTextOnly)
+    // Before the grid has laid the keys out they have no size of their own to fit.
+    if (!keysLaidOut_ || key->toolButtonStyle() != Qt::ToolButtonTextOnly)
         return;
     // The style draws the caption centred inside the key's frame.
     const int frame = key->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, key);
     const qreal room = key->contentsRect().width() - 2 * (frame + CaptionAir);
-    const QString text = key->text();
-    const auto fits = [&](const QFont& font) {
-        return QFontMetricsF(font, key).horizontalAdvance(text) <= room;
-    };
     const QFont base = KeyPanel->font();
-    if (fits(base)) {
-        key->setFont(QFont()); // back to the inherited font
+    const int pixels = FittedCaptionPixels(base, *key, key->text(), room);
+    if (pixels == 0) {
+        if (key->testAttribute(Qt::WA_SetFont))
+            key->setFont(QFont()); // back to the inherited font
         return;
     }
     QFont font = base;
-    for (int pixels = QFontInfo(base).pixelSize() - 1; pixels >= MinCaptionPixels; --pixels) {
-        font.setPixelSize(pixels);
-        if (fits(font))
-            break;
-    }
-    key->setFont(font);
+    font.setPixelSize(pixels);
+    if (!key->testAttribute(Qt::WA_SetFont) || key->font() != font)
+        key->setFont(font);
 }
 
 void TQORCalcFormBase::FitKeyCaptions() const
@@ -319,15 +373,22 @@ void TQORCalcFormBase::LayOutGrid(const std::vector<TGridCell>& cells, int rows)
         grid->setColumnMinimumWidth(col, w);
     for (int row = 0; row < rows; ++row)
         grid->setRowMinimumHeight(row, h);
-    for (auto* button : KeyPanel->findChildren<QToolButton*>(Qt::FindDirectChildrenOnly))
-        button->hide();
+    for (auto* button : KeyPanel->findChildren<QToolButton*>(Qt::FindDirectChildrenOnly)) {
+        const bool placed
+            = std::any_of(cells.begin(), cells.end(),
+                          [button](const TGridCell& cell) { return cell.Widget == button; });
+        if (!placed)
+            button->hide();
+    }
     for (const auto& cell : cells) {
         cell.Widget->setFixedSize(cell.Span * w, h);
         grid->addWidget(cell.Widget, cell.Row, cell.Col, 1, cell.Span);
-        cell.Widget->show();
+        if (cell.Widget->isHidden())
+            cell.Widget->show();
     }
     KeyPanel->setFixedSize(geometry_.Columns * w, rows * h);
     grid->activate(); // a form not shown yet has its keys in place too
+    keysLaidOut_ = true;
     FitKeyCaptions();
 }
 
@@ -359,7 +420,8 @@ void TQORCalcFormBase::SetTapeModel(TQORTapeModel* model)
     tapeModel_ = model;
     TapeView = new QListView(this);
     TapeView->setObjectName(QStringLiteral("TapeView"));
-    TapeView->setModel(model);
+    // The view takes its model when it is first shown (see SetShowTape): most forms never show
+    // their tape.
     TapeView->setUniformItemSizes(true);
     TapeView->setSelectionMode(QAbstractItemView::ExtendedSelection);
     TapeView->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -384,6 +446,8 @@ void TQORCalcFormBase::SetShowTape(bool value)
     if (TapeView == nullptr || value == showTape_)
         return;
     showTape_ = value;
+    if (value && TapeView->model() == nullptr)
+        TapeView->setModel(tapeModel_);
     TapeView->setVisible(value);
     UpdateTabOrder();
     if (formWidth_ > 0)

@@ -326,6 +326,8 @@ private:
         TQORKeyLook Look;
     };
     std::vector<KeyText> keyTexts_;
+    // A key's caption, hint and accessible texts in the current language.
+    void ApplyKeyTexts(const KeyText& key) const;
     std::vector<TQORCharKey<TQORCalcFormBase>> charKeys_;
     std::vector<TQORKeyDownDef<TQORCalcFormBase>> keyDowns_;
     QString defaultTitle_; // the caption UpdateLanguage gave
@@ -344,6 +346,11 @@ private:
     int explicitTop_ = -1;
     bool placed_ = false;
     int helpContext_ = 0;
+    // Keys have their size once the grid has laid them out; captions are fitted from then on.
+    bool keysLaidOut_ = false;
+    // Set by the first UpdateLanguage (every form calls it once its keys are made): keys made
+    // later take their language texts at once.
+    bool languageApplied_ = false;
 };
 
 // The keys every calculator has; Engine is the floating-point or the programmer's engine.

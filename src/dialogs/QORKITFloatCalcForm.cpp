@@ -152,6 +152,8 @@ void TQORFloatCalcForm::RefreshDisplays()
     ValueDisplay->setText(QString::fromStdString(engine_.GetDisplayStr()));
     MemoryDisplay->setText(QString::fromStdString(engine_.GetMemoryContents()));
     SetKeyText(RadBtn, QString::fromStdString(engine_.GetAngleModeStr()));
+    if (DPSpin->value() == engine_.GetDecimalPlaces())
+        return; // setting an equal value would still rewrite the spin edit's text
     const QSignalBlocker quiet(DPSpin);
     DPSpin->setValue(engine_.GetDecimalPlaces());
 }
