@@ -13,6 +13,7 @@
 #include <QStyle>
 
 #include <limits>
+#include <map>
 #include <set>
 
 namespace qorkit {
@@ -118,6 +119,55 @@ TEST_P(CaptionsFit, FontChangedAfterwardsRefitsTheKeys)
     ExpectCaptionsFit(form, QSize(30, 22), "font set last");
     // Keys whose caption fits take the form's font itself.
     EXPECT_EQ(form.SevenBtn->font(), form.KeyPanel->font());
+}
+
+// A shrunk caption is in the largest size that fits, and every form asks the same of the same
+// caption: a second form, and the first one after a round trip through another font, show
+// each key in the size a fresh form gives it.
+TEST_P(CaptionsFit, ShrunkCaptionsTakeTheLargestSizeThatFitsInEveryForm)
+{
+    const auto pixelsOf = [](const TQORCalcFormBase& form) {
+        std::map<QString, int> pixels;
+        for (auto* key : form.KeyPanel->findChildren<QToolButton*>(Qt::FindDirectChildrenOnly)) {
+            if (!key->isHidden() && key->toolButtonStyle() == Qt::ToolButtonTextOnly)
+                pixels[key->objectName()] = QFontInfo(key->font()).pixelSize();
+        }
+        return pixels;
+    };
+    TQORSciCalcForm first;
+    ApplyFont(first);
+    const std::map<QString, int> fresh = pixelsOf(first);
+    const int full = QFontInfo(first.KeyPanel->font()).pixelSize();
+    int shrunk = 0;
+    for (auto* key : first.KeyPanel->findChildren<QToolButton*>(Qt::FindDirectChildrenOnly)) {
+        if (key->isHidden() || key->toolButtonStyle() != Qt::ToolButtonTextOnly)
+            continue;
+        const int pixels = QFontInfo(key->font()).pixelSize();
+        if (pixels >= full || pixels <= 6)
+            continue;
+        ++shrunk;
+        QFont larger = key->font();
+        larger.setPixelSize(pixels + 1);
+        const int frame = key->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, key);
+        EXPECT_GT(QFontMetricsF(larger, key).horizontalAdvance(key->text()),
+                  key->contentsRect().width() - 2 * (frame + 1))
+            << key->objectName().toStdString();
+    }
+    if (GetParam().Family != nullptr && GetParam().Pixels >= 16) {
+        EXPECT_GT(shrunk, 0); // a font this large shrinks some captions
+    }
+
+    TQORSciCalcForm second;
+    ApplyFont(second);
+    EXPECT_EQ(pixelsOf(second), fresh);
+    QFont other(QStringLiteral("DejaVu Serif"));
+    other.setPixelSize(19);
+    first.setFont(other);
+    EXPECT_NE(pixelsOf(first), fresh);
+    ApplyFont(first);
+    if (GetParam().Family == nullptr)
+        first.setFont(second.font());
+    EXPECT_EQ(pixelsOf(first), fresh);
 }
 
 INSTANTIATE_TEST_SUITE_P(Fonts, CaptionsFit,
