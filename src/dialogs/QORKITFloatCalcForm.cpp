@@ -196,7 +196,11 @@ void TQORFloatCalcForm::ShowToggle(QToolButton* key, const TQORToggleLabel& labe
 {
     const bool inv = engine_.GetIsInv();
     if (label.Glyph >= 0) {
-        key->setIcon(QORGlyphIcon(static_cast<TQORGlyph>(inv ? label.InvGlyph : label.Glyph)));
+        // Glyph icons are shared: the same glyph is the same icon, and an unchanged key is
+        // neither repainted nor measured again.
+        const QIcon icon = QORGlyphIcon(static_cast<TQORGlyph>(inv ? label.InvGlyph : label.Glyph));
+        if (key->icon().cacheKey() != icon.cacheKey())
+            key->setIcon(icon);
         return;
     }
     std::string text = label.Caption();
