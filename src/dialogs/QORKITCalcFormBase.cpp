@@ -135,7 +135,17 @@ int FittedCaptionPixels(const QFont& base, const QPaintDevice& device, const QSt
             return qHashMulti(0, q.Font, q.Dpi, q.Text, q.Room);
         }
     };
-    static std::unordered_map<Question, int, QuestionHash> answers;
+    // Fonts cannot outlive the application object: the answers go when it ends.
+    using TAnswers = std::unordered_map<Question, int, QuestionHash>;
+    static TAnswers* kept = nullptr;
+    if (kept == nullptr) {
+        kept = new TAnswers;
+        qAddPostRoutine([] {
+            delete kept;
+            kept = nullptr;
+        });
+    }
+    TAnswers& answers = *kept;
     constexpr std::size_t MaxAnswers = 4096; // languages times fonts times keys, with room
     Question question {base, device.logicalDpiY(), text, room};
     if (const auto known = answers.find(question); known != answers.end())
