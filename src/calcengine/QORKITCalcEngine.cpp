@@ -20,6 +20,7 @@ namespace qorkit {
 namespace {
 
 using Engine = TQORCalcEngine;
+using namespace engine_internal;
 
 constexpr Extended PercentFactor = 0.01L;
 constexpr Extended StandardGravity = 9.80665L;
@@ -36,34 +37,23 @@ struct BinaryOperator {
 };
 
 constexpr BinaryOperator BinaryOperators[] = {
-    {'+', [] { return Text("+"); }, [](Extended x, Extended y) { return x + y; }, false},
-    {'-', [] { return Text("-"); }, [](Extended x, Extended y) { return x - y; }, false},
-    {'*', [] { return Text("*"); }, [](Extended x, Extended y) { return x * y; }, false},
-    {'/', [] { return Text("/"); }, [](Extended x, Extended y) { return x / y; }, true},
-    {'^', rsXpwrYPaper, XtoY, false},
+    {ocAdd, [] { return Text("+"); }, [](Extended x, Extended y) { return x + y; }, false},
+    {ocSubtract, [] { return Text("-"); }, [](Extended x, Extended y) { return x - y; }, false},
+    {ocMultiply, [] { return Text("*"); }, [](Extended x, Extended y) { return x * y; }, false},
+    {ocDivide, [] { return Text("/"); }, [](Extended x, Extended y) { return x / y; }, true},
+    {ocPower, rsXpwrYPaper, XtoY, false},
     // The y-th root; a zero index is the reciprocal of zero.
-    {'@', rsXpwrInvYPaper, [](Extended x, Extended y) { return XtoY(x, 1.0L / y); }, true},
-    {'#', rsFPModPaper, QORMod, true},
-    {'&', rsFPRemPaper, QORRem, true},
-    {'\\', rsFPDivPaper, QORDiv, true},
-    {'|', rsFPIntDivPaper, QORIntDiv, true},
-    {'%', [] { return Text("%"); }, [](Extended x, Extended y) { return x * y * PercentFactor; },
-     false},
+    {ocRoot, rsXpwrInvYPaper, [](Extended x, Extended y) { return XtoY(x, 1.0L / y); }, true},
+    {ocModulus, rsFPModPaper, QORMod, true},
+    {ocRemainder, rsFPRemPaper, QORRem, true},
+    {ocDiv, rsFPDivPaper, QORDiv, true},
+    {ocIntDiv, rsFPIntDivPaper, QORIntDiv, true},
+    {ocPercent, [] { return Text("%"); },
+     [](Extended x, Extended y) { return x * y * PercentFactor; }, false},
 };
 
-const BinaryOperator* FindBinary(char code)
-{
-    for (const auto& op : BinaryOperators)
-        if (op.Code == code)
-            return &op;
-    return nullptr;
-}
+bool IsFunctionCode(char c) { return kFunctionCodeSet.Contains(c); }
 
-constexpr std::string_view FunctionCodes = "ACDGLNQRSTUWacdfgilnqrstuw";
-
-bool IsFunctionCode(char c) { return FunctionCodes.find(c) != std::string_view::npos; }
-
-// Sign clean-up of a typed number: a second minus cancels the first.
 // The text of a typed number with its exponent negated: "1E5" -> "1E-5", "1E-05" -> "1E5";
 // a zero or missing exponent gives "1E-".
 std::string NegateExponent(const std::string& entry, std::size_t ePos)
@@ -132,7 +122,7 @@ void TQORCalcEngine::HandleError(const std::string& message)
     lastError_ = message;
     AddToHistory(rsPaperErrLine(), false);
     Fire(onError_);
-    lastOperator_ = ' ';
+    lastOperator_ = ocNone;
 }
 
 void TQORCalcEngine::Fire(const TNotifyEvent& event)
@@ -193,18 +183,18 @@ Extended TQORCalcEngine::TypedValue() const
 
 void TQORCalcEngine::Numeric(char Ch)
 {
-    if (lastOperator_ == '=') {
+    if (lastOperator_ == ocResult) {
         ClearToggles();
         EmptyStacks();
         entryStr_.clear();
-        lastOperator_ = ' ';
+        lastOperator_ = ocNone;
     }
-    if (Ch == 'E') {
+    if (Ch == 'E') { // the letter e: Euler's number
         InputNaturalConstant();
         return;
     }
     // After the exponent key a sign belongs to the exponent; elsewhere it leads the number.
-    if ((Ch == '+' || Ch == '-') && lastOperator_ != 'E')
+    if ((Ch == '+' || Ch == '-') && lastOperator_ != ocExponent)
         entryStr_.insert(entryStr_.begin(), Ch);
     else
         entryStr_ += Ch;
@@ -229,7 +219,7 @@ void TQORCalcEngine::InputDigit(std::int8_t Digit)
 
 void TQORCalcEngine::InputDecimalSeparator()
 {
-    lastOperator_ = '.';
+    lastOperator_ = ocDecimalSeparator;
     const char separator = FormatSettings.DecimalSeparator;
     if (entryStr_.find(separator) == std::string::npos) {
         if (entryStr_.empty())
@@ -242,7 +232,7 @@ void TQORCalcEngine::InputDecimalSeparator()
 
 void TQORCalcEngine::InputThousandsSeparator()
 {
-    lastOperator_ = ',';
+    lastOperator_ = ocThousandsSeparator;
     if (!entryStr_.empty())
         entryStr_ += FormatSettings.ThousandSeparator;
     ClearToggles();
@@ -266,7 +256,7 @@ void TQORCalcEngine::DoExp()
     entryStr_ += 'E';
     SetDisplayValue(entryStr_);
     ClearToggles();
-    lastOperator_ = 'E';
+    lastOperator_ = ocExponent;
 }
 
 void TQORCalcEngine::DoChangeSign()
@@ -290,14 +280,14 @@ void TQORCalcEngine::DoChangeSign()
             ShowResult(top * -1);
             AddToHistory("+/-", false);
         }
-        lastOperator_ = ' ';
+        lastOperator_ = ocNone;
     });
 }
 
 void TQORCalcEngine::ClearDisplay()
 {
     ClearToggles();
-    lastOperator_ = ' ';
+    lastOperator_ = ocNone;
     entryStr_.clear();
     SetDisplayValue("0");
 }
@@ -309,7 +299,7 @@ void TQORCalcEngine::AllClear()
     entryStr_.clear();
     SetDisplayValue("0");
     lastError_.clear();
-    lastOperator_ = ' ';
+    lastOperator_ = ocNone;
     ClearHistory();
 }
 
@@ -317,7 +307,7 @@ void TQORCalcEngine::InputValue(Extended Value)
 {
     Guarded([&] {
         ShowResult(Value);
-        lastOperator_ = ' ';
+        lastOperator_ = ocNone;
         AddToHistory(displayStr_, false);
     });
 }
@@ -326,7 +316,7 @@ void TQORCalcEngine::InputString(std::string_view S)
 {
     Guarded([&] {
         ShowResult(CheckFloat(Str2Float(S)));
-        lastOperator_ = ' ';
+        lastOperator_ = ocNone;
     });
 }
 
@@ -404,27 +394,28 @@ void TQORCalcEngine::ShowResult(Extended value)
 
 bool TQORCalcEngine::HigherPrecedence(char NewOp, char TopOp) const
 {
-    const bool newIsFunction = IsFunctionCode(NewOp) || (NewOp == '%' && !binaryPercent_);
-    if (TopOp == '(' || newIsFunction)
-        return true;
-    if (!precedence_)
-        return false;
-    const bool topAdditive = TopOp == '+' || TopOp == '-';
-    if (std::string_view("#&*/\\|").find(NewOp) != std::string_view::npos)
-        return topAdditive;
-    if (std::string_view("%@^").find(NewOp) != std::string_view::npos)
-        return topAdditive || TopOp == '*' || TopOp == '/';
-    return false;
+    static constexpr TQORCodeSet multiplicative {ocModulus, ocRemainder, ocMultiply,
+                                                 ocDivide,  ocDiv,       ocIntDiv};
+    static constexpr TQORCodeSet tight {ocPercent, ocRoot, ocPower};
+    return TopOp == ocLeftBracket || IsUnary(NewOp)
+        || (precedence_ && BindsTighter(NewOp, TopOp, multiplicative, tight));
+}
+
+bool TQORCalcEngine::IsUnary(char code) const
+{
+    return IsFunctionCode(code) || (code == ocPercent && !binaryPercent_);
 }
 
 void TQORCalcEngine::Arithmetic(char Op)
 {
     Guarded([&] {
-        static constexpr std::string_view binarySigns = "#&(*+-/@\\^|E";
+        // The keys after which + and - are signs.
+        static constexpr TQORCodeSet binarySigns {
+            ocModulus, ocRemainder, ocLeftBracket, ocMultiply, ocAdd,    ocSubtract,
+            ocDivide,  ocRoot,      ocDiv,         ocPower,    ocIntDiv, ocExponent};
         const bool signContext = (entryStr_.empty() && operands_.Empty())
-            || binarySigns.find(lastOperator_) != std::string_view::npos
-            || IsFunctionCode(lastOperator_) || (lastOperator_ == '%' && !binaryPercent_);
-        if ((Op == '+' || Op == '-') && signContext) {
+            || binarySigns.Contains(lastOperator_) || IsUnary(lastOperator_);
+        if ((Op == ocAdd || Op == ocSubtract) && signContext) {
             Numeric(Op);
             return;
         }
@@ -433,22 +424,22 @@ void TQORCalcEngine::Arithmetic(char Op)
             Reduce();
         PushOperator(Op);
         ShowTop();
-        const auto* op = FindBinary(Op);
+        const auto* op = FindCode(BinaryOperators, Op);
         AddToHistory(op ? op->TapeText() : std::string(1, Op), true);
         ClearToggles();
         lastOperator_ = Op;
     });
 }
 
-void TQORCalcEngine::DoAdd() { Arithmetic('+'); }
-void TQORCalcEngine::DoSubtract() { Arithmetic('-'); }
-void TQORCalcEngine::DoMultiply() { Arithmetic('*'); }
-void TQORCalcEngine::DoDivide() { Arithmetic('/'); }
-void TQORCalcEngine::DoPower() { Arithmetic(isInv_ ? '@' : '^'); }
-void TQORCalcEngine::DoModulus() { Arithmetic('#'); }
-void TQORCalcEngine::DoRemainder() { Arithmetic('&'); }
-void TQORCalcEngine::DoDiv() { Arithmetic('\\'); }
-void TQORCalcEngine::DoIntDiv() { Arithmetic('|'); }
+void TQORCalcEngine::DoAdd() { Arithmetic(ocAdd); }
+void TQORCalcEngine::DoSubtract() { Arithmetic(ocSubtract); }
+void TQORCalcEngine::DoMultiply() { Arithmetic(ocMultiply); }
+void TQORCalcEngine::DoDivide() { Arithmetic(ocDivide); }
+void TQORCalcEngine::DoPower() { Arithmetic(isInv_ ? ocRoot : ocPower); }
+void TQORCalcEngine::DoModulus() { Arithmetic(ocModulus); }
+void TQORCalcEngine::DoRemainder() { Arithmetic(ocRemainder); }
+void TQORCalcEngine::DoDiv() { Arithmetic(ocDiv); }
+void TQORCalcEngine::DoIntDiv() { Arithmetic(ocIntDiv); }
 
 void TQORCalcEngine::StackManipulation()
 {
@@ -461,11 +452,11 @@ void TQORCalcEngine::StackManipulation()
 void TQORCalcEngine::Reduce()
 {
     const char code = operators_.Pop();
-    if (code == '%' && !binaryPercent_) {
+    if (code == ocPercent && !binaryPercent_) {
         UnaryPercentReduce();
         return;
     }
-    if (const auto* op = FindBinary(code)) {
+    if (const auto* op = FindCode(BinaryOperators, code)) {
         if (operands_.Count() < 2)
             throw EMathError(rsInvalidEquation());
         const Extended y = PopOperand();
@@ -505,10 +496,10 @@ void TQORCalcEngine::InputLeftBracket()
             DoMultiply();
         }
         entryStr_.clear();
-        PushOperator('(');
+        PushOperator(ocLeftBracket);
         ShowTop();
         AddToHistory("(", true);
-        lastOperator_ = '(';
+        lastOperator_ = ocLeftBracket;
     });
 }
 
@@ -516,12 +507,12 @@ void TQORCalcEngine::InputRightBracket()
 {
     Guarded([&] {
         UpdateValue();
-        ReduceUntil([](char top) { return top == '('; });
+        ReduceUntil([](char top) { return top == ocLeftBracket; });
         if (!operators_.Empty()) // an unmatched ')' is accepted silently
             operators_.Drop();
         ShowTop();
         AddToHistory(")", false);
-        lastOperator_ = ')';
+        lastOperator_ = ocRightBracket;
     });
 }
 
@@ -547,7 +538,7 @@ void TQORCalcEngine::DoEquals()
         AddToHistory("=", true);
         AddToHistory(displayStr_, false);
         // The result stays on the stack; a second "=" shows it again (no repeated operation).
-        lastOperator_ = '=';
+        lastOperator_ = ocResult;
     });
 }
 
@@ -555,9 +546,9 @@ void TQORCalcEngine::DoPercent()
 {
     Guarded([&] {
         if (binaryPercent_) {
-            Arithmetic('%');
+            Arithmetic(ocPercent);
             ClearToggles();
-            lastOperator_ = ' ';
+            lastOperator_ = ocNone;
             return;
         }
         const auto operand = [this](std::int32_t below) { return operands_.Below(below); };
@@ -579,7 +570,7 @@ void TQORCalcEngine::DoPercent()
         }
         ShowResult(result);
         ClearToggles();
-        lastOperator_ = ' ';
+        lastOperator_ = ocNone;
     });
 }
 
@@ -627,10 +618,8 @@ constexpr FunctionCode FunctionTable[] = {
 
 const FunctionCode& FindFunction(char code)
 {
-    for (const auto& f : FunctionTable)
-        if (f.Code == code)
-            return f;
-    return FunctionTable[0]; // not reached: every code the engine issues is listed
+    const auto* f = FindCode(FunctionTable, code);
+    return f ? *f : FunctionTable[0]; // the fallback is not reached: every code is listed
 }
 
 // The codes a function key issues for the toggle states none, Inv, Hyp, Inv+Hyp.
@@ -677,7 +666,7 @@ void TQORCalcEngine::FunctionKeyPressed(std::string_view codes)
             // Intended: the result goes on top of the old operand instead of replacing it.
             ShowResult((this->*function.Compute)(argument));
         }
-        lastOperator_ = ' ';
+        lastOperator_ = ocNone;
     });
 }
 
@@ -727,7 +716,7 @@ void TQORCalcEngine::DoInvert()
             throw EZeroDivide(rsDivideByZero());
         ShowResult(1.0L / argument);
         ClearToggles();
-        lastOperator_ = ' ';
+        lastOperator_ = ocNone;
     });
 }
 
@@ -738,7 +727,7 @@ void TQORCalcEngine::DoRound(std::int32_t Places)
         ShowResult(RoundDP(PostfixArgument(), Places));
         AddToHistory(Places == 0 ? rsRoundPaper() : rsRoundPaper() + " " + std::to_string(Places),
                      false);
-        lastOperator_ = ' ';
+        lastOperator_ = ocNone;
     });
 }
 
@@ -943,7 +932,7 @@ void TQORCalcEngine::MemoryRecall()
         ClearToggles();
         AddToHistory(rsMemRecPaper(), false);
         MemoryLine();
-        lastOperator_ = ' ';
+        lastOperator_ = ocNone;
     });
 }
 

@@ -93,8 +93,7 @@ public:
     void DoEquals();
     void DoResult(); // completes the pending calculation without the tape's "=" line
 
-    // Issues a binary operator key by its code ('+', '-', '*', '/', '^', '@', '#', '&', '\\',
-    // '|', '%').
+    // Issues a binary operator key by its code (engine_internal::TQOROpCode).
     void Arithmetic(char Op);
     // Whether NewOp binds tighter than TopOp, so that TopOp must wait.
     bool HigherPrecedence(char NewOp, char TopOp) const;
@@ -293,6 +292,8 @@ private:
     void FunctionKeyPressed(std::string_view codes);
     void Report(std::string_view codes);
     void ApplyFunction(char code);
+    // A function code, or percent while it is unary: applied to the top operand alone.
+    bool IsUnary(char code) const;
     Extended PostfixArgument();
     Extended Finish(Extended result); // clears the toggles, checks the result
     void UnaryPercentReduce();
@@ -302,7 +303,7 @@ private:
     std::string entryStr_;
     std::string displayStr_;
     std::string lastError_;
-    char lastOperator_ = ' ';
+    char lastOperator_ = engine_internal::ocNone;
     TQORAngleMode angleMode_ = amRadians;
     bool isInv_ = false;
     bool isHyp_ = false;

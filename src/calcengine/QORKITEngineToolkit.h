@@ -3,15 +3,98 @@
 // headers hold these types as members.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <exception>
+#include <initializer_list>
 #include <new>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 namespace qorkit::engine_internal {
+
+// The operation codes of the operator stacks and of the last key. They are the characters
+// hosts read through LastOperator, so a code is a char wherever one is expected. Some
+// characters stand for a different operation in each engine.
+enum TQOROpCode : char {
+    ocNone = ' ',
+    ocResult = '=',
+    ocLeftBracket = '(',
+    ocRightBracket = ')',
+    ocAdd = '+',
+    ocSubtract = '-',
+    ocMultiply = '*',
+    ocDivide = '/',
+    // The scientific engine.
+    ocExponent = 'E',
+    ocDecimalSeparator = '.',
+    ocThousandsSeparator = ',',
+    ocPower = '^',
+    ocRoot = '@', // also ranked beside MOD and XOR in the programmer's precedence
+    ocModulus = '#',
+    ocRemainder = '&',
+    ocDiv = '\\',
+    ocIntDiv = '|',
+    ocPercent = '%',
+    // The programmer's engine.
+    ocMod = '%',
+    ocAnd = '&',
+    ocOr = '|',
+    ocXor = '^',
+    ocXnor = '!',
+    ocNor = '?',
+    ocNand = '#',
+    ocNot = '~',
+};
+
+// The letters of the function codes, one per function and toggle state. Both engines treat
+// them as prefix functions on the operator stack.
+inline constexpr std::string_view kFunctionCodes = "ACDGLNQRSTUWacdfgilnqrstuw";
+
+// A set of codes as a table, for the tests on every key.
+class TQORCodeSet {
+public:
+    constexpr TQORCodeSet(std::initializer_list<char> codes, std::string_view more = {})
+    {
+        for (const char c : codes)
+            members_[static_cast<unsigned char>(c)] = true;
+        for (const char c : more)
+            members_[static_cast<unsigned char>(c)] = true;
+    }
+    constexpr bool Contains(char code) const noexcept
+    {
+        return members_[static_cast<unsigned char>(code)];
+    }
+
+private:
+    std::array<bool, 256> members_ {};
+};
+
+inline constexpr TQORCodeSet kFunctionCodeSet {{}, kFunctionCodes};
+
+// Infix precedence: whether newOp binds tighter than the operator topOp beneath it. An
+// operator of `multiplicative` waits for nothing but + and -; one of `tight` neither for * and
+// /. Every other pair reduces the top first.
+inline bool BindsTighter(char newOp, char topOp, const TQORCodeSet& multiplicative,
+                         const TQORCodeSet& tight) noexcept
+{
+    constexpr TQORCodeSet additive {ocAdd, ocSubtract};
+    constexpr TQORCodeSet arithmetic {ocAdd, ocSubtract, ocMultiply, ocDivide};
+    return (multiplicative.Contains(newOp) && additive.Contains(topOp))
+        || (tight.Contains(newOp) && arithmetic.Contains(topOp));
+}
+
+// The row of a table whose Code is `code`, or nullptr.
+template<class Row, std::size_t N> const Row* FindCode(const Row (&table)[N], char code) noexcept
+{
+    for (const Row& row : table)
+        if (row.Code == code)
+            return &row;
+    return nullptr;
+}
 
 // The one error path of an engine operation. Only the outermost guarded call catches: a fault
 // anywhere inside abandons the rest of the operation and is handed to onError with its

@@ -20,6 +20,8 @@ namespace qorkit {
 
 namespace {
 
+using namespace engine_internal;
+
 // Digit counts per word size: hexadecimal, octal, binary.
 struct TDigitCounts {
     int Hex;
@@ -39,48 +41,32 @@ constexpr int kMaxDecimalEntry = 20; // characters of a decimal entry, sign incl
 
 // Keys after which "+" and "-" are signs, and after which a base change must not complete
 // the calculation.
-constexpr std::string_view kOperatorKeys = "!#%&(*+-/?@|~";
-// Function letters of the calculator key codes: always pushed above the stack top.
-constexpr std::string_view kFunctionLetters = "ACDGLNQRSTUWacdfgilnqrstuw";
-constexpr std::string_view kBinaryOperators = "+-*/%&|^#?!";
+constexpr TQORCodeSet kOperatorKeys {ocXnor,     ocNand, ocMod,      ocAnd,    ocLeftBracket,
+                                     ocMultiply, ocAdd,  ocSubtract, ocDivide, ocNor,
+                                     ocRoot,     ocOr,   ocNot};
 
-// A set of characters as a table, for the tests on every key.
-using TCharSet = std::array<bool, 256>;
-constexpr TCharSet MakeCharSet(std::string_view chars)
-{
-    TCharSet set {};
-    for (const char c : chars)
-        set[static_cast<unsigned char>(c)] = true;
-    return set;
-}
-constexpr TCharSet kOperatorKeySet = MakeCharSet(kOperatorKeys);
-constexpr TCharSet kFunctionLetterSet = MakeCharSet(kFunctionLetters);
-constexpr TCharSet kBinaryOperatorSet = MakeCharSet(kBinaryOperators);
-
-bool Contains(const TCharSet& set, char ch) { return set[static_cast<unsigned char>(ch)]; }
-
-// The history word of a two-operand operator.
-std::string OperatorHistoryText(char op)
-{
-    switch (op) {
-    case '%':
-        return rsMODPaper();
-    case '&':
-        return rsANDPaper();
-    case '|':
-        return rsORPaper();
-    case '^':
-        return rsXORPaper();
-    case '#':
-        return rsNANDPaper();
-    case '?':
-        return rsNORPaper();
-    case '!':
-        return rsXNORPaper();
-    default:
-        return std::string(1, op);
-    }
-}
+// A two-operand operator: its code, history word and result on b (left) and a (right),
+// wrapping in 64 bits; the low 32 bits of that are the 32-bit result. The divisions have no
+// Apply: they fault on zero and their quotient depends on the width.
+using U64 = std::uint64_t;
+struct TBinaryOperator {
+    char Code;
+    std::string (*HistoryText)();
+    U64 (*Apply)(U64 b, U64 a);
+};
+constexpr TBinaryOperator kBinaryOperators[] = {
+    {ocAdd, [] { return std::string("+"); }, [](U64 b, U64 a) { return b + a; }},
+    {ocSubtract, [] { return std::string("-"); }, [](U64 b, U64 a) { return b - a; }},
+    {ocMultiply, [] { return std::string("*"); }, [](U64 b, U64 a) { return b * a; }},
+    {ocDivide, [] { return std::string("/"); }, nullptr},
+    {ocMod, rsMODPaper, nullptr},
+    {ocAnd, rsANDPaper, [](U64 b, U64 a) { return b & a; }},
+    {ocOr, rsORPaper, [](U64 b, U64 a) { return b | a; }},
+    {ocXor, rsXORPaper, [](U64 b, U64 a) { return b ^ a; }},
+    {ocNand, rsNANDPaper, [](U64 b, U64 a) { return ~(b & a); }},
+    {ocNor, rsNORPaper, [](U64 b, U64 a) { return ~(b | a); }},
+    {ocXnor, rsXNORPaper, [](U64 b, U64 a) { return ~(b ^ a); }},
+};
 
 // A size outside the four works as 64 bits, the size the getters already name for it, so no
 // shift or rotate ever sees a width beyond the word.
@@ -130,34 +116,6 @@ template<std::size_t N> std::string TextOf(const TTextFn (&table)[N], unsigned o
     return table[std::min<std::size_t>(ordinal, N - 1)]();
 }
 
-// Two-operand operators on b (left) and a (right), wrapping in the unsigned type U. The
-// division operators are handled by the caller.
-template<typename U> U ApplyBitsAndSums(char op, U b, U a)
-{
-    switch (op) {
-    case '+':
-        return static_cast<U>(b + a);
-    case '-':
-        return static_cast<U>(b - a);
-    case '*':
-        return static_cast<U>(b * a);
-    case '&':
-        return static_cast<U>(b & a);
-    case '|':
-        return static_cast<U>(b | a);
-    case '^':
-        return static_cast<U>(b ^ a);
-    case '#':
-        return static_cast<U>(~(b & a));
-    case '?':
-        return static_cast<U>(~(b | a));
-    case '!':
-        return static_cast<U>(~(b ^ a));
-    default:
-        return 0;
-    }
-}
-
 // Signed division and remainder in the signed type S, with the quotient truncated toward
 // zero and the remainder taking the sign of b. The caller has excluded a == 0.
 template<typename S> S DivideOrMod(char op, S b, S a, bool faultOnOverflow)
@@ -166,9 +124,24 @@ template<typename S> S DivideOrMod(char op, S b, S a, bool faultOnOverflow)
         // The processor faults on this quotient; 64-bit division wraps to itself instead.
         if (faultOnOverflow)
             throw EZeroDivide(rsDivideByZero());
-        return op == '/' ? b : S {0};
+        return op == ocDivide ? b : S {0};
     }
-    return op == '/' ? static_cast<S>(b / a) : static_cast<S>(b % a);
+    return op == ocDivide ? static_cast<S>(b / a) : static_cast<S>(b % a);
+}
+
+// B op A at a word size. 64 bits wrap in 64 bits; every smaller size works on the operands
+// widened to 32 bits and keeps the 32-bit result sign-extended, not cut to the word size.
+std::int64_t Compute(const TBinaryOperator& op, std::int64_t b, std::int64_t a, bool bits64)
+{
+    if (bits64)
+        return op.Apply
+            ? static_cast<std::int64_t>(op.Apply(static_cast<U64>(b), static_cast<U64>(a)))
+            : DivideOrMod<std::int64_t>(op.Code, b, a, false);
+    const auto a32 = static_cast<std::int32_t>(a);
+    const auto b32 = static_cast<std::int32_t>(b);
+    if (!op.Apply)
+        return DivideOrMod<std::int32_t>(op.Code, b32, a32, true);
+    return static_cast<std::int32_t>(op.Apply(static_cast<U64>(b32), static_cast<U64>(a32)));
 }
 
 // Shifts and rotates of the word-size value a (already sign-extended); count is 1..64.
@@ -393,7 +366,7 @@ TQORProgCalcEngine::TQORProgCalcEngine()
     // Base and size still hold their zero ordinals here, so the first display is eight binary
     // zeros; the owner refreshes it before showing it.
     SetDisplayValue0();
-    lastKey_ = ' ';
+    lastKey_ = ocNone;
     lastError_.clear();
     maxDisplayLength_ = 26;
     operands_.Clear();
@@ -839,7 +812,7 @@ void TQORProgCalcEngine::InputString(const std::string& s)
         UpdateValues();
         ClearEntry();
         PushOperandStack(value_);
-        lastKey_ = ' ';
+        lastKey_ = ocNone;
     });
 }
 
@@ -848,13 +821,13 @@ void TQORProgCalcEngine::InputValue(std::int64_t v)
     ConvertValues(v);
     ClearEntry();
     PushOperandStack(v);
-    lastKey_ = ' ';
+    lastKey_ = ocNone;
     AddToHistory(Shown());
 }
 
 void TQORProgCalcEngine::ClearDisplay()
 {
-    lastKey_ = ' ';
+    lastKey_ = ocNone;
     ClearEntry();
     value_ = 0;
     SetDisplayValue0();
@@ -868,7 +841,7 @@ void TQORProgCalcEngine::AllClear()
     value_ = 0;
     SetDisplayValue0();
     lastError_.clear();
-    lastKey_ = ' ';
+    lastKey_ = ocNone;
     ClearHistory();
 }
 
@@ -904,49 +877,24 @@ std::int64_t TQORProgCalcEngine::OperandB() const
     return SlotOfSize(bitSize_, byteB_, wordB_, longB_, int64B_);
 }
 
-// B op A at the word size. 64 bits wrap in 64 bits; every smaller size works on the operands
-// widened to 32 bits and keeps the 32-bit result sign-extended, not cut to the word size.
-std::int64_t TQORProgCalcEngine::Compute(char op) const
-{
-    const std::int64_t a = OperandA();
-    const std::int64_t b = OperandB();
-    const bool division = op == '/' || op == '%';
-    if (bitSize_ == bs64Bits) {
-        if (division)
-            return DivideOrMod<std::int64_t>(op, b, a, false);
-        return static_cast<std::int64_t>(ApplyBitsAndSums<std::uint64_t>(
-            op, static_cast<std::uint64_t>(b), static_cast<std::uint64_t>(a)));
-    }
-    const auto a32 = static_cast<std::int32_t>(a);
-    const auto b32 = static_cast<std::int32_t>(b);
-    if (division)
-        return DivideOrMod<std::int32_t>(op, b32, a32, true);
-    return static_cast<std::int32_t>(ApplyBitsAndSums<std::uint32_t>(
-        op, static_cast<std::uint32_t>(b32), static_cast<std::uint32_t>(a32)));
-}
-
 bool TQORProgCalcEngine::HigherPrecedence(char newOp, char topOp) const
 {
-    if (precedence_ && (newOp == '*' || newOp == '/') && (topOp == '+' || topOp == '-'))
-        return true;
+    static constexpr TQORCodeSet multiplicative {ocMultiply, ocDivide};
     // MOD and XOR bind above multiplication: the chosen order, kept.
-    if (precedence_ && (newOp == '%' || newOp == '@' || newOp == '^')
-        && (topOp == '*' || topOp == '+' || topOp == '-' || topOp == '/'))
-        return true;
-    return topOp == '(' || Contains(kFunctionLetterSet, newOp);
+    static constexpr TQORCodeSet tight {ocMod, ocRoot, ocXor};
+    return (precedence_ && BindsTighter(newOp, topOp, multiplicative, tight))
+        || topOp == ocLeftBracket || kFunctionCodeSet.Contains(newOp);
 }
 
 void TQORProgCalcEngine::StackManipulation()
 {
     SetSizeValues();
     const char op = operators_.Top();
-    if (Contains(kBinaryOperatorSet, op) && !operands_.Empty()) {
-        if (op == '/' || op == '%') {
-            // The processor's division fault covers a divisor whose word-size part is zero.
-            if (operands_.Top() == 0 || OperandA() == 0)
-                throw EZeroDivide(rsDivideByZero());
-        }
-        const std::int64_t result = Compute(op);
+    if (const auto* binary = FindCode(kBinaryOperators, op); binary && !operands_.Empty()) {
+        // The processor's division fault covers a divisor whose word-size part is zero.
+        if (!binary->Apply && (operands_.Top() == 0 || OperandA() == 0))
+            throw EZeroDivide(rsDivideByZero());
+        const std::int64_t result = Compute(*binary, OperandB(), OperandA(), bitSize_ == bs64Bits);
         // With a single operand the left-hand side is 0 and the result stays the only operand.
         if (operands_.Count() >= 2) {
             operands_.Below(1) = result;
@@ -954,7 +902,7 @@ void TQORProgCalcEngine::StackManipulation()
         } else {
             operands_.Top() = result;
         }
-    } else if (op == '~' && !operands_.Empty()) {
+    } else if (op == ocNot && !operands_.Empty()) {
         operands_.Top() = ~OperandA();
     }
     operators_.Drop();
@@ -980,9 +928,9 @@ void TQORProgCalcEngine::ShowTopOperand()
 
 void TQORProgCalcEngine::Arithmetic(char op)
 {
-    if (baseDisplay_ == bdDecimal && (op == '+' || op == '-')
-        && ((entry_.empty() && operands_.Empty()) || Contains(kOperatorKeySet, lastKey_)
-            || Contains(kFunctionLetterSet, lastKey_))) {
+    if (baseDisplay_ == bdDecimal && (op == ocAdd || op == ocSubtract)
+        && ((entry_.empty() && operands_.Empty()) || kOperatorKeys.Contains(lastKey_)
+            || kFunctionCodeSet.Contains(lastKey_))) {
         Numeric(op); // a sign of the number being typed
         return;
     }
@@ -993,7 +941,8 @@ void TQORProgCalcEngine::Arithmetic(char op)
         PushOperatorStack(op);
         ShowTopOperand();
     });
-    AddToHistory(OperatorHistoryText(op));
+    const auto* binary = FindCode(kBinaryOperators, op);
+    AddToHistory(binary ? binary->HistoryText() : std::string(1, op));
     lastKey_ = op;
 }
 
@@ -1018,7 +967,7 @@ void TQORProgCalcEngine::DoEquals()
     DoResult();
     AddToHistory(std::string("="));
     AddToHistory(Shown());
-    lastKey_ = '=';
+    lastKey_ = ocResult;
 }
 
 void TQORProgCalcEngine::InputLeftBracket()
@@ -1029,24 +978,24 @@ void TQORProgCalcEngine::InputLeftBracket()
         DoMultiply();
     }
     ClearEntry();
-    PushOperatorStack('(');
+    PushOperatorStack(ocLeftBracket);
     ShowTopOperand();
     AddToHistory(std::string("("));
-    lastKey_ = '(';
+    lastKey_ = ocLeftBracket;
 }
 
 void TQORProgCalcEngine::InputRightBracket()
 {
     Guarded([&] {
         UpdateValue();
-        while (!operators_.Empty() && operators_.Top() != '(')
+        while (!operators_.Empty() && operators_.Top() != ocLeftBracket)
             StackManipulation();
         if (!operators_.Empty())
             operators_.Drop();
         ShowTopOperand();
     });
     AddToHistory(std::string(")"));
-    lastKey_ = ')';
+    lastKey_ = ocRightBracket;
 }
 
 void TQORProgCalcEngine::HandleError(const std::string& message)
@@ -1086,7 +1035,7 @@ template<class Fn> void TQORProgCalcEngine::UnaryKey(Fn&& compute, const std::st
         PushOperandStack(result);
     });
     AddToHistory(historyLine);
-    lastKey_ = ' ';
+    lastKey_ = ocNone;
 }
 
 void TQORProgCalcEngine::DoNeg()
@@ -1103,10 +1052,10 @@ void TQORProgCalcEngine::DoNot()
     if (prefixFunctions_) {
         // Prefix NOT: applied to the operand that follows, at the next evaluation.
         ClearEntry();
-        PushOperatorStack('~');
+        PushOperatorStack(ocNot);
         AddToHistory(rsNOTPaper());
         ShowTopOperand();
-        lastKey_ = ' ';
+        lastKey_ = ocNone;
         return;
     }
     UnaryKey(
@@ -1147,7 +1096,7 @@ std::int64_t TQORProgCalcEngine::ComputeAbs(std::int64_t v) noexcept
 
 // ---- Base, size and spacing ----------------------------------------------------------------
 
-bool TQORProgCalcEngine::OperatorPending() const { return Contains(kOperatorKeySet, lastKey_); }
+bool TQORProgCalcEngine::OperatorPending() const { return kOperatorKeys.Contains(lastKey_); }
 
 void TQORProgCalcEngine::SetBaseDisplay(TQORBaseDisplay value)
 {

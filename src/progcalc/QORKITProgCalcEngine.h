@@ -179,17 +179,17 @@ public:
 
     void DoResult() override;
     void DoEquals() override;
-    void DoAdd() override { Arithmetic('+'); }
-    void DoSubtract() override { Arithmetic('-'); }
-    void DoMultiply() override { Arithmetic('*'); }
-    void DoDivide() override { Arithmetic('/'); }
-    void DoMod() override { Arithmetic('%'); }
-    void DoAnd() override { Arithmetic('&'); }
-    void DoOr() override { Arithmetic('|'); }
-    void DoXor() override { Arithmetic('^'); }
-    void DoXnor() override { Arithmetic('!'); }
-    void DoNor() override { Arithmetic('?'); }
-    void DoNand() override { Arithmetic('#'); }
+    void DoAdd() override { Arithmetic(engine_internal::ocAdd); }
+    void DoSubtract() override { Arithmetic(engine_internal::ocSubtract); }
+    void DoMultiply() override { Arithmetic(engine_internal::ocMultiply); }
+    void DoDivide() override { Arithmetic(engine_internal::ocDivide); }
+    void DoMod() override { Arithmetic(engine_internal::ocMod); }
+    void DoAnd() override { Arithmetic(engine_internal::ocAnd); }
+    void DoOr() override { Arithmetic(engine_internal::ocOr); }
+    void DoXor() override { Arithmetic(engine_internal::ocXor); }
+    void DoXnor() override { Arithmetic(engine_internal::ocXnor); }
+    void DoNor() override { Arithmetic(engine_internal::ocNor); }
+    void DoNand() override { Arithmetic(engine_internal::ocNand); }
 
     void DoNeg() override;
     void DoNot() override;
@@ -298,7 +298,6 @@ private:
     // Helpers of the steps above.
     std::int64_t OperandA() const;
     std::int64_t OperandB() const;
-    std::int64_t Compute(char op) const;
     template<class Fn> void UnaryKey(Fn&& compute, const std::string& historyLine);
     void ShiftKey(std::int64_t (*compute)(std::int64_t, int bits, int count),
                   const std::string& word, std::int32_t count);
@@ -388,7 +387,7 @@ private:
     mutable std::string memoryText_;
     mutable std::string lastLine_;
     std::string lastError_;
-    char lastKey_ = ' '; // " ": nothing pending
+    char lastKey_ = engine_internal::ocNone;
     TQORBaseDisplay baseDisplay_ = bdBinary;
     TQORBitSize bitSize_ = bs8Bits;
     TQORProgSpacing spacing_ = psNoSpacing;
