@@ -220,6 +220,9 @@ constexpr auto kDigitValues = [] {
     return table;
 }();
 
+// Bits per digit of a base other than decimal.
+int RadixBits(TQORBaseDisplay base) { return base == bdBinary ? 1 : base == bdOctal ? 3 : 4; }
+
 // The bits of a word size.
 std::uint64_t SizeMask(TQORBitSize size)
 {
@@ -332,26 +335,15 @@ void FormatValue(std::string& out, std::int64_t v, TQORBaseDisplay base, TQORBit
 // The entry text of a base as hexadecimal digits, at most the 16 of the int64 pattern.
 std::string EntryToHex(const std::string& text, TQORBaseDisplay base)
 {
-    const std::string digits = RemoveGroupSpacing(text, ' ');
-    std::string hex;
-    switch (base) {
-    case bdBinary:
-        hex = Bin2Hex(digits);
-        break;
-    case bdOctal:
-        hex = Oct2Hex(digits);
-        break;
-    case bdDecimal:
-        // Just the value's own digits: a converted entry is not zero-filled to 64 bits.
-        hex = Int2EHex(ParseDecimalEntry(digits));
-        break;
-    default:
-        hex = digits;
+    std::string hex = RemoveGroupSpacing(text, ' ');
+    if (base == bdBinary || base == bdOctal)
+        hex = base == bdBinary ? Bin2Hex(hex) : Oct2Hex(hex);
+    else if (base == bdDecimal) // the value's own digits, not zero-filled to 64 bits
+        hex = Int2EHex(ParseDecimalEntry(hex));
+    else
         std::transform(hex.begin(), hex.end(), hex.begin(), [](char c) {
             return static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
         });
-        break;
-    }
     return RightStr(hex, 16);
 }
 
@@ -564,7 +556,7 @@ bool TQORProgCalcEngine::EntryValue(std::uint64_t& bits)
         entryBitsKnown_ = true;
         return true;
     }
-    const int radixBits = baseDisplay_ == bdBinary ? 1 : baseDisplay_ == bdOctal ? 3 : 4;
+    const int radixBits = RadixBits(baseDisplay_);
     for (const char c : entry_) {
         const std::uint8_t digit = kDigitValues[static_cast<unsigned char>(c)];
         if (digit == kBlankDigit)
@@ -639,44 +631,24 @@ void TQORProgCalcEngine::ChangeValues(TQORBaseDisplay oldBase, TQORBaseDisplay n
             const auto typed = static_cast<int>(
                 entry_.size()
                 - static_cast<std::size_t>(std::count(entry_.begin(), entry_.end(), ' ')));
-            const int typedBits = typed * (oldBase == bdBinary ? 1 : oldBase == bdOctal ? 3 : 4);
-            hexDigits = std::min((typedBits + 3) / 4, 16);
+            hexDigits = std::min((typed * RadixBits(oldBase) + 3) / 4, 16);
         }
         baseDisplay_ = newBase;
-        switch (newBase) {
-        case bdBinary:
-            WritePattern(entry_, bits, 1, 4 * hexDigits);
-            break;
-        case bdOctal:
-            WritePattern(entry_, bits, 3, (4 * hexDigits + 2) / 3);
-            break;
-        case bdDecimal:
+        const int radixBits = RadixBits(newBase);
+        if (newBase == bdDecimal)
             FormatValue(entry_, static_cast<std::int64_t>(bits), newBase, bitSize_, spacing_,
                         maxDisplayLength_);
-            break;
-        default:
-            WritePattern(entry_, bits, 4, hexDigits);
-            break;
-        }
+        else // the digits that hold 4 bits per hexadecimal digit
+            WritePattern(entry_, bits, radixBits, (4 * hexDigits + radixBits - 1) / radixBits);
         EntryChanged();
         return;
     }
-    const std::string hex = EntryToHex(entry_, oldBase);
+    entry_ = EntryToHex(entry_, oldBase);
     baseDisplay_ = newBase;
-    switch (newBase) {
-    case bdBinary:
-        entry_ = Hex2Bin(hex);
-        break;
-    case bdOctal:
-        entry_ = Hex2Oct(hex);
-        break;
-    case bdDecimal:
-        entry_ = DisplayValue(Hex2Int64(hex));
-        break;
-    default:
-        entry_ = hex;
-        break;
-    }
+    if (newBase == bdBinary || newBase == bdOctal)
+        entry_ = newBase == bdBinary ? Hex2Bin(entry_) : Hex2Oct(entry_);
+    else if (newBase == bdDecimal)
+        entry_ = DisplayValue(Hex2Int64(entry_));
     EntryChanged();
 }
 
@@ -779,8 +751,7 @@ void TQORProgCalcEngine::AppendEntryBits(std::uint64_t digit)
         entryBits_ = entryNegative_ ? entryBits_ * 10U - digit : entryBits_ * 10U + digit;
         return;
     }
-    const int radixBits = baseDisplay_ == bdBinary ? 1 : baseDisplay_ == bdOctal ? 3 : 4;
-    entryBits_ = (entryBits_ << radixBits) | digit;
+    entryBits_ = (entryBits_ << RadixBits(baseDisplay_)) | digit;
 }
 
 void TQORProgCalcEngine::InputDigit(char ch)
@@ -1208,20 +1179,11 @@ void TQORProgCalcEngine::SetSpacing(TQORProgSpacing value)
         return;
     spacing_ = value;
     Notify(onSpacingChange_);
-    switch (baseDisplay_) {
-    case bdBinary:
-        SetDisplayValue(GetDisplayValueBin());
-        break;
-    case bdOctal:
-        SetDisplayValue(GetDisplayValueOct());
-        break;
-    case bdDecimal:
+    if (baseDisplay_ == bdDecimal)
         SetDisplayValue(DisplayValue(value_));
-        break;
-    default:
-        SetDisplayValue(GetDisplayValueHex());
-        break;
-    }
+    else // any other base works as hexadecimal
+        SetDisplayValue(
+            DisplayValueIn(RadixBits(baseDisplay_) == 4 ? bdHexadecimal : baseDisplay_));
     Notify(onMemoryChange_);
     DoResult();
 }
