@@ -1,5 +1,5 @@
 // The pieces both keystroke engines share: the guarded error path, the evaluation stack, the
-// tape store's cursor and the sign clean-up.
+// tape store's cursor, the sign clean-up and the operation code helpers.
 #include "QORKITEngineToolkit.h"
 
 #include <gtest/gtest.h>
@@ -111,6 +111,43 @@ INSTANTIATE_TEST_SUITE_P(
                     SignCase {"PlusMinus", "+-5", "-5"}, SignCase {"ThreeMinus", "---5", "-5"},
                     SignCase {"ExponentSign", "1E+-5", "1E-5"}, SignCase {"NoSigns", "12", "12"}),
     [](const testing::TestParamInfo<SignCase>& row) { return std::string(row.param.name); });
+
+TEST(OpCodes, SetsHoldTheirCodesAndNoOthers)
+{
+    constexpr TQORCodeSet set {{ocAdd, ocDiv}, "\xE9x"};
+    for (int c = 0; c < 256; ++c) {
+        const char code = static_cast<char>(c);
+        const bool member = code == '+' || code == '\\' || code == 'x' || code == '\xE9';
+        EXPECT_EQ(set.Contains(code), member) << c;
+    }
+    EXPECT_TRUE(kFunctionCodeSet.Contains('S'));
+    EXPECT_FALSE(kFunctionCodeSet.Contains(ocAdd));
+}
+
+TEST(OpCodes, FindCodeReturnsTheRowOrNull)
+{
+    struct Row {
+        char Code;
+        int Value;
+    };
+    constexpr Row rows[] = {{ocAdd, 1}, {ocMultiply, 2}};
+    ASSERT_NE(FindCode(rows, '*'), nullptr);
+    EXPECT_EQ(FindCode(rows, '*')->Value, 2);
+    EXPECT_EQ(FindCode(rows, ocNone), nullptr);
+}
+
+TEST(OpCodes, TightOperatorsWaitOnlyForAddAndMultiplyLevels)
+{
+    constexpr TQORCodeSet multiplicative {ocMultiply, ocModulus};
+    constexpr TQORCodeSet tight {ocPower};
+    EXPECT_TRUE(BindsTighter(ocMultiply, ocAdd, multiplicative, tight));
+    EXPECT_FALSE(BindsTighter(ocModulus, ocMultiply, multiplicative, tight));
+    EXPECT_TRUE(BindsTighter(ocPower, ocDivide, multiplicative, tight));
+    // A tight operator does not bind above a multiplicative one outside + - * /.
+    EXPECT_FALSE(BindsTighter(ocPower, ocModulus, multiplicative, tight));
+    EXPECT_FALSE(BindsTighter(ocPower, ocPower, multiplicative, tight));
+    EXPECT_FALSE(BindsTighter(ocAdd, ocMultiply, multiplicative, tight));
+}
 
 } // namespace
 } // namespace qorkit::engine_internal

@@ -111,6 +111,50 @@ INSTANTIATE_TEST_SUITE_P(Operators, KeyTable, ::testing::Values(
     RowName<KeyCase>);
 // clang-format on
 
+// LastOperator after a key: hosts read these codes, so they keep their characters.
+struct LastOperatorCase {
+    const char* Name;
+    const char* Keys;
+    char Code;
+};
+
+class LastOperatorTable : public CalcEngineTest,
+                          public ::testing::WithParamInterface<LastOperatorCase> { };
+
+TEST_P(LastOperatorTable, NamesTheLastKeyAction)
+{
+    CalcKeyDriver calc;
+    calc.Press(GetParam().Keys);
+    EXPECT_EQ(calc.Engine().GetLastOperator(), GetParam().Code);
+}
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Codes, LastOperatorTable, ::testing::Values(
+    LastOperatorCase{"Nothing", "", ' '},
+    LastOperatorCase{"Digit", "1 2", '2'},
+    LastOperatorCase{"DecimalSeparator", "1 .", '.'},
+    LastOperatorCase{"ThousandsSeparator", "1 ,", ','},
+    LastOperatorCase{"Exponent", "1 [ee]", 'E'},
+    LastOperatorCase{"ExponentSign", "1 [ee] -", '-'},
+    LastOperatorCase{"Add", "2 +", '+'},
+    LastOperatorCase{"Subtract", "2 -", '-'},
+    LastOperatorCase{"Multiply", "2 *", '*'},
+    LastOperatorCase{"Divide", "2 /", '/'},
+    LastOperatorCase{"Power", "2 ^", '^'},
+    LastOperatorCase{"Root", "2 [inv] ^", '@'},
+    LastOperatorCase{"Modulus", "2 [mod]", '#'},
+    LastOperatorCase{"Remainder", "2 [rem]", '&'},
+    LastOperatorCase{"Div", "2 [div]", '\\'},
+    LastOperatorCase{"IntDiv", "2 [intdiv]", '|'},
+    LastOperatorCase{"PercentIsNoPendingOperator", "2 * 5 %", ' '},
+    LastOperatorCase{"LeftBracket", "2 * (", '('},
+    LastOperatorCase{"RightBracket", "( 2 )", ')'},
+    LastOperatorCase{"Equals", "2 + 3 =", '='},
+    LastOperatorCase{"Function", "2 [sin]", ' '},
+    LastOperatorCase{"Error", "1 / 0 =", ' '}),
+    RowName<LastOperatorCase>);
+// clang-format on
+
 TEST_F(CalcEngineTest, FreshEngineShowsZeroWithEmptyStacks)
 {
     TQORCalcEngine engine;
