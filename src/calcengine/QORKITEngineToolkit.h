@@ -50,10 +50,6 @@ enum TQOROpCode : char {
     ocNot = '~',
 };
 
-// The letters of the function codes, one per function and toggle state. Both engines treat
-// them as prefix functions on the operator stack.
-inline constexpr std::string_view kFunctionCodes = "ACDGLNQRSTUWacdfgilnqrstuw";
-
 // A set of codes as a table, for the tests on every key.
 class TQORCodeSet {
 public:
@@ -73,7 +69,9 @@ private:
     std::array<bool, 256> members_ {};
 };
 
-inline constexpr TQORCodeSet kFunctionCodeSet {{}, kFunctionCodes};
+// The function codes, a letter per function and toggle state. Both engines treat them as
+// prefix functions on the operator stack.
+inline constexpr TQORCodeSet kFunctionCodeSet {{}, "ACDGLNQRSTUWacdfgilnqrstuw"};
 
 // Infix precedence: whether newOp binds tighter than the operator topOp beneath it. An
 // operator of `multiplicative` waits for nothing but + and -; one of `tight` neither for * and
@@ -81,10 +79,9 @@ inline constexpr TQORCodeSet kFunctionCodeSet {{}, kFunctionCodes};
 inline bool BindsTighter(char newOp, char topOp, const TQORCodeSet& multiplicative,
                          const TQORCodeSet& tight) noexcept
 {
-    constexpr TQORCodeSet additive {ocAdd, ocSubtract};
-    constexpr TQORCodeSet arithmetic {ocAdd, ocSubtract, ocMultiply, ocDivide};
-    return (multiplicative.Contains(newOp) && additive.Contains(topOp))
-        || (tight.Contains(newOp) && arithmetic.Contains(topOp));
+    const bool topAdditive = topOp == ocAdd || topOp == ocSubtract;
+    return (multiplicative.Contains(newOp) && topAdditive)
+        || (tight.Contains(newOp) && (topAdditive || topOp == ocMultiply || topOp == ocDivide));
 }
 
 // The row of a table whose Code is `code`, or nullptr.
