@@ -975,7 +975,11 @@ void TQORCalcEngine::ClearHistory()
 
 void TQORCalcEngine::HistoryStart() { tape_.Start(); }
 
-std::string TQORCalcEngine::GetNextHistoryEntry() { return tape_.Next(); }
+std::string TQORCalcEngine::GetNextHistoryEntry()
+{
+    const std::string* line = tape_.Next();
+    return line != nullptr ? *line : std::string();
+}
 
 std::string TQORCalcEngine::GetHistoryEntry(std::uint16_t Index) const
 {

@@ -193,7 +193,7 @@ public:
     // HistoryPosition property: the read cursor, -1 before the first line.
     std::int32_t GetHistoryPosition() const noexcept { return tape_.Position(); }
     void SetHistoryPosition(std::int32_t Value) { tape_.SetPosition(Value); }
-    const std::vector<std::string>& GetHistory() const noexcept { return tape_.Lines(); }
+    std::span<const std::string> GetHistory() const noexcept { return tape_.Lines(); }
 
     // ---- Settings --------------------------------------------------------------------------
     // Plain stores: setting one neither re-formats the display nor fires an event.
@@ -322,7 +322,7 @@ private:
     bool precedence_ = true;
     bool memoryHistory_ = false;
     bool trimTrailingZeroes_ = false;
-    engine_internal::TQORTapeStore tape_;
+    engine_internal::TQORTapeStore<> tape_;
     std::uint8_t maxDisplayLength_ = 26;
     bool enableGrads_ = false;
     TNotifyEvent onClearToggles_;

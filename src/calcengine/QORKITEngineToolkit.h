@@ -3,12 +3,14 @@
 // headers hold these types as members.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <exception>
 #include <initializer_list>
 #include <new>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -165,31 +167,51 @@ private:
     std::int32_t top_ = -1;
 };
 
-// The lines of a paper tape and its read cursor.
-class TQORTapeStore {
+// The lines of a paper tape and its read cursor. A line is a text, or a record of the
+// engine's that writes its text when first read. Slots of a cleared tape are reused.
+template<class Line = std::string> class TQORTapeStore {
 public:
-    void Add(std::string line) { lines_.push_back(std::move(line)); }
+    // The new last line, for the caller to fill.
+    Line& Add()
+    {
+        if (count_ == lines_.size())
+            lines_.emplace_back();
+        return lines_[count_++];
+    }
+    void Add(Line line) { Add() = std::move(line); }
     void Clear() noexcept
     {
-        lines_.clear();
+        count_ = 0;
         Start();
     }
     void Start() noexcept { position_ = -1; }
-    // The line after the cursor, moving the cursor onto it; empty past the last line.
-    std::string Next();
-    // Line `index`, or nullptr beyond the end.
-    const std::string* At(std::size_t index) const noexcept
+    // The line after the cursor, moving the cursor onto it; nullptr past the last line.
+    Line* Next() noexcept
     {
-        return index < lines_.size() ? &lines_[index] : nullptr;
+        // 64-bit arithmetic: a host may store any position, INT32_MAX included. A position
+        // below the start reads from the first line.
+        const std::int64_t next = std::max<std::int64_t>(position_, -1) + 1;
+        if (next >= static_cast<std::int64_t>(count_))
+            return nullptr;
+        position_ = static_cast<std::int32_t>(next);
+        return &lines_[static_cast<std::size_t>(next)];
     }
-    const std::string* Last() const noexcept { return lines_.empty() ? nullptr : &lines_.back(); }
-    std::int32_t Length() const noexcept { return static_cast<std::int32_t>(lines_.size()); }
+    // Line `index`, or nullptr beyond the end.
+    Line* At(std::size_t index) noexcept { return index < count_ ? &lines_[index] : nullptr; }
+    const Line* At(std::size_t index) const noexcept
+    {
+        return index < count_ ? &lines_[index] : nullptr;
+    }
+    const Line* Last() const noexcept { return count_ == 0 ? nullptr : &lines_[count_ - 1]; }
+    Line* Last() noexcept { return count_ == 0 ? nullptr : &lines_[count_ - 1]; }
+    std::int32_t Length() const noexcept { return static_cast<std::int32_t>(count_); }
     std::int32_t Position() const noexcept { return position_; }
     void SetPosition(std::int32_t value) noexcept { position_ = value; }
-    const std::vector<std::string>& Lines() const noexcept { return lines_; }
+    std::span<const Line> Lines() const noexcept { return {lines_.data(), count_}; }
 
 private:
-    std::vector<std::string> lines_;
+    std::vector<Line> lines_; // the first count_ are in use
+    std::size_t count_ = 0;
     std::int32_t position_ = -1;
 };
 

@@ -1250,39 +1250,18 @@ void TQORProgCalcEngine::SetMemory(std::int64_t v)
 
 // ---- History -------------------------------------------------------------------------------
 
-TQORProgCalcEngine::TTape::TLine& TQORProgCalcEngine::TTape::Add()
+const std::string& TQORProgCalcEngine::TapeText(TTapeLine& line)
 {
-    if (count_ == lines_.size())
-        lines_.emplace_back();
-    return lines_[count_++];
-}
-
-const std::string* TQORProgCalcEngine::TTape::At(std::size_t index) const
-{
-    if (index >= count_)
-        return nullptr;
-    TLine& line = lines_[index];
     if (line.Pending) {
         FormatValue(line.Text, line.Value, line.Base, line.Size, line.Spacing, line.MaxLength);
         line.Pending = false;
     }
-    return &line.Text;
-}
-
-std::string TQORProgCalcEngine::TTape::Next()
-{
-    // 64-bit arithmetic: a host may store any position, INT32_MAX included. A position below
-    // the start reads from the first line.
-    const std::int64_t next = std::max<std::int64_t>(position_, -1) + 1;
-    if (next >= static_cast<std::int64_t>(count_))
-        return {};
-    position_ = static_cast<std::int32_t>(next);
-    return *At(static_cast<std::size_t>(next));
+    return line.Text;
 }
 
 void TQORProgCalcEngine::AddToHistory(const std::string& s)
 {
-    TTape::TLine& line = tape_.Add();
+    TTapeLine& line = tape_.Add();
     line.Text = s;
     line.Pending = false;
     Notify(onHistoryChange_);
@@ -1291,7 +1270,7 @@ void TQORProgCalcEngine::AddToHistory(const std::string& s)
 // The line keeps the value and today's modes; its text is written when it is first read.
 void TQORProgCalcEngine::AddToHistory(std::int64_t v)
 {
-    TTape::TLine& line = tape_.Add();
+    TTapeLine& line = tape_.Add();
     line.Value = v;
     line.Base = baseDisplay_;
     line.Size = bitSize_;
@@ -1305,26 +1284,30 @@ void TQORProgCalcEngine::PaperLine() { AddToHistory(rsPaperLine()); }
 
 void TQORProgCalcEngine::ClearHistory() { tape_.Clear(); }
 
-std::string TQORProgCalcEngine::GetNextHistoryEntry() { return tape_.Next(); }
+std::string TQORProgCalcEngine::GetNextHistoryEntry()
+{
+    TTapeLine* line = tape_.Next();
+    return line != nullptr ? TapeText(*line) : std::string();
+}
 
 // Lines keep the spacing of the moment they were written; they are shown in the current one.
 // Words are regrouped too.
 std::string TQORProgCalcEngine::GetHistoryEntry(std::uint16_t index) const
 {
     std::string s;
-    if (const std::string* line = tape_.At(index))
-        Regroup(s, *line, GroupWidth());
+    if (TTapeLine* line = tape_.At(index))
+        Regroup(s, TapeText(*line), GroupWidth());
     return s;
 }
 
 const std::string& TQORProgCalcEngine::GetLastHistoryEntry() const
 {
-    const std::string* last = tape_.Last();
+    TTapeLine* last = tape_.Last();
     if (last == nullptr) {
         lastLine_.clear();
         return lastLine_;
     }
-    const std::string& line = *last;
+    const std::string& line = TapeText(*last);
     if (line.empty() || !std::isxdigit(static_cast<unsigned char>(line.front())))
         return line;
     Regroup(lastLine_, line, GroupWidth());

@@ -400,38 +400,19 @@ private:
     bool memoryHistory_ = false;
     // The history. A value line keeps the value and the modes it was written in and is
     // written out when first read; slots and their texts are reused after a clear.
-    class TTape {
-    public:
-        struct TLine {
-            std::string Text;
-            std::int64_t Value = 0;
-            TQORBaseDisplay Base = bdBinary;
-            TQORBitSize Size = bs8Bits;
-            TQORProgSpacing Spacing = psNoSpacing;
-            std::uint8_t MaxLength = 0;
-            bool Pending = false; // Text does not hold the value line yet
-        };
-        TLine& Add(); // the new last line, for the caller to fill
-        void Clear() noexcept
-        {
-            count_ = 0;
-            Start();
-        }
-        void Start() noexcept { position_ = -1; }
-        // The line after the cursor, moving the cursor onto it; empty past the last line.
-        std::string Next();
-        const std::string* At(std::size_t index) const; // nullptr beyond the end
-        const std::string* Last() const { return count_ == 0 ? nullptr : At(count_ - 1); }
-        std::int32_t Length() const noexcept { return static_cast<std::int32_t>(count_); }
-        std::int32_t Position() const noexcept { return position_; }
-        void SetPosition(std::int32_t value) noexcept { position_ = value; }
-
-    private:
-        mutable std::vector<TLine> lines_; // the first count_ are in use
-        std::size_t count_ = 0;
-        std::int32_t position_ = -1;
+    // A tape line: a text, or a value with the modes of its moment whose text is written
+    // when the line is first read.
+    struct TTapeLine {
+        std::string Text;
+        std::int64_t Value = 0;
+        TQORBaseDisplay Base = bdBinary;
+        TQORBitSize Size = bs8Bits;
+        TQORProgSpacing Spacing = psNoSpacing;
+        std::uint8_t MaxLength = 0;
+        bool Pending = false; // Text does not hold the value line yet
     };
-    TTape tape_;
+    static const std::string& TapeText(TTapeLine& line);
+    mutable engine_internal::TQORTapeStore<TTapeLine> tape_;
     engine_internal::TQORErrorGuard guard_;
     std::uint8_t maxDisplayLength_ = 0;
 

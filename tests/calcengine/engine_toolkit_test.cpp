@@ -72,12 +72,30 @@ class TapeCursor : public testing::TestWithParam<CursorCase> { };
 
 TEST_P(TapeCursor, NextReadsFromASafePosition)
 {
-    TQORTapeStore tape;
+    TQORTapeStore<> tape;
     for (const char* line : {"a", "b", "c"})
         tape.Add(line);
     tape.SetPosition(GetParam().position);
-    EXPECT_EQ(tape.Next(), GetParam().expected);
+    const std::string* next = tape.Next();
+    EXPECT_EQ(next != nullptr ? *next : std::string(), GetParam().expected);
     EXPECT_EQ(tape.Position(), GetParam().positionAfter);
+}
+
+// A cleared tape keeps its slots for reuse, but none of the old lines is read again.
+TEST(TapeStore, ClearedTapeShowsOnlyItsNewLines)
+{
+    TQORTapeStore<> tape;
+    for (const char* line : {"a", "b", "c"})
+        tape.Add(line);
+    tape.Clear();
+    tape.Add("d");
+    ASSERT_EQ(tape.Lines().size(), 1U);
+    EXPECT_EQ(tape.Lines()[0], "d");
+    EXPECT_EQ(*tape.Last(), "d");
+    EXPECT_EQ(tape.At(1), nullptr);
+    EXPECT_EQ(*tape.Next(), "d");
+    EXPECT_EQ(tape.Next(), nullptr);
+    EXPECT_EQ(tape.Length(), 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(Positions, TapeCursor,
