@@ -117,69 +117,119 @@ char CharOf(const QKeyEvent& event)
     return static_cast<char>(text[0].unicode());
 }
 
-// The pixel size in which `text` fits `room` pixels in `base` drawn on `device`, or 0 when it
-// fits in `base` itself. Every form of a kind asks the same questions: the answers are kept.
-int FittedCaptionPixels(const QFont& base, const QPaintDevice& device, const QString& text,
-                        qreal room)
-{
-    struct Question {
-        QFont Font;
-        int Dpi;
-        QString Text;
-        qreal Room;
-        bool operator==(const Question&) const = default;
-    };
-    struct QuestionHash {
-        std::size_t operator()(const Question& q) const noexcept
-        {
-            return qHashMulti(0, q.Font, q.Dpi, q.Text, q.Room);
+// Answers to "in which pixel size does this caption fit that room" for one key font at one
+// resolution. Every form of a kind asks the same questions: the answers are kept.
+class TCaptionFits {
+public:
+    // The answers for captions in `base` at `dpi` dots per inch.
+    static TCaptionFits& For(const QFont& base, int dpi)
+    {
+        // Fonts cannot outlive the application object: the answers go when it ends.
+        using TFonts = std::unordered_map<std::pair<QFont, int>, TCaptionFits, PairHash>;
+        static TFonts* kept = nullptr;
+        if (kept == nullptr) {
+            kept = new TFonts;
+            qAddPostRoutine([] {
+                delete kept;
+                kept = nullptr;
+            });
         }
-    };
-    // Fonts cannot outlive the application object: the answers go when it ends.
-    using TAnswers = std::unordered_map<Question, int, QuestionHash>;
-    static TAnswers* kept = nullptr;
-    if (kept == nullptr) {
-        kept = new TAnswers;
-        qAddPostRoutine([] {
-            delete kept;
-            kept = nullptr;
-        });
+        constexpr std::size_t MaxFonts = 64;
+        auto key = std::pair(base, dpi);
+        if (const auto known = kept->find(key); known != kept->end())
+            return known->second;
+        if (kept->size() >= MaxFonts)
+            kept->clear();
+        return kept->try_emplace(std::move(key), base).first->second;
     }
-    TAnswers& answers = *kept;
-    constexpr std::size_t MaxAnswers = 4096; // languages times fonts times keys, with room
-    Question question {base, device.logicalDpiY(), text, room};
-    if (const auto known = answers.find(question); known != answers.end())
-        return known->second;
 
-    const auto fits = [&](const QFont& font) {
-        return QFontMetricsF(font, &device).horizontalAdvance(text) <= room;
-    };
-    int answer = 0;
-    if (!fits(base)) {
-        // The largest smaller size that fits, at least MinCaptionPixels; a font already that
-        // small keeps its size.
-        const int full = QFontInfo(base).pixelSize();
-        answer = full - 1 >= MinCaptionPixels ? MinCaptionPixels : full;
-        QFont font = base;
-        for (int pixels = full - 1; pixels > MinCaptionPixels; --pixels) {
-            font.setPixelSize(pixels);
-            if (fits(font)) {
-                answer = pixels;
-                break;
+    explicit TCaptionFits(QFont base) : base_(std::move(base)) { }
+
+    // The pixel size in which `text` fits `room` pixels drawn on `device` (of this resolution),
+    // or 0 when it fits in the base font itself.
+    int Pixels(const QPaintDevice& device, const QString& text, qreal room)
+    {
+        auto question = std::pair(text, room);
+        if (const auto known = answers_.find(question); known != answers_.end())
+            return known->second;
+        const auto fits = [&](const QFont& font) {
+            return QFontMetricsF(font, &device).horizontalAdvance(text) <= room;
+        };
+        int answer = 0;
+        if (!fits(base_)) {
+            // The largest smaller size that fits, at least MinCaptionPixels; a font already
+            // that small keeps its size.
+            const int full = QFontInfo(base_).pixelSize();
+            answer = full - 1 >= MinCaptionPixels ? MinCaptionPixels : full;
+            QFont font = base_;
+            for (int pixels = full - 1; pixels > MinCaptionPixels; --pixels) {
+                font.setPixelSize(pixels);
+                if (fits(font)) {
+                    answer = pixels;
+                    break;
+                }
             }
         }
+        constexpr std::size_t MaxAnswers = 1024; // languages times keys, with room
+        if (answers_.size() >= MaxAnswers)
+            answers_.clear();
+        answers_.emplace(std::move(question), answer);
+        return answer;
     }
-    if (answers.size() >= MaxAnswers)
-        answers.clear();
-    answers.emplace(std::move(question), answer);
-    return answer;
+
+private:
+    struct PairHash {
+        template<class A, class B> std::size_t operator()(const std::pair<A, B>& p) const noexcept
+        {
+            return qHashMulti(0, p.first, p.second);
+        }
+    };
+    QFont base_;
+    std::unordered_map<std::pair<QString, qreal>, int, PairHash> answers_;
+};
+
+// Gives a text key its caption size: the base font, or the largest smaller size of it in
+// which the caption fits between the key's frame.
+void FitCaption(QToolButton* key, const QFont& base, TCaptionFits& fits)
+{
+    if (key->toolButtonStyle() != Qt::ToolButtonTextOnly)
+        return;
+    // The style draws the caption centred inside the key's frame.
+    const int frame = key->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, key);
+    const qreal room = key->contentsRect().width() - 2 * (frame + CaptionAir);
+    const int pixels = fits.Pixels(*key, key->text(), room);
+    if (pixels == 0) {
+        if (key->testAttribute(Qt::WA_SetFont))
+            key->setFont(QFont()); // back to the inherited font
+        return;
+    }
+    QFont font = base;
+    font.setPixelSize(pixels);
+    if (!key->testAttribute(Qt::WA_SetFont) || key->font() != font)
+        key->setFont(font);
 }
+
+// A calculator key: a tool button whose size the key grid fixes. Once fixed, that size is its
+// size hint, so laying the grid out does not measure the caption and icon it overrides anyway.
+class TKeyButton final : public QToolButton {
+public:
+    using QToolButton::QToolButton;
+    QSize sizeHint() const override { return Fixed() ? minimumSize() : QToolButton::sizeHint(); }
+    QSize minimumSizeHint() const override
+    {
+        return Fixed() ? minimumSize() : QToolButton::minimumSizeHint();
+    }
+
+private:
+    bool Fixed() const { return !minimumSize().isEmpty() && minimumSize() == maximumSize(); }
+};
 
 } // namespace
 
 TQORCalcFormBase::TQORCalcFormBase(QWidget* parent, TQORFormGeometry geometry, QFont keyFont)
     : QDialog(parent), geometry_(geometry)
 {
+    keyTexts_.reserve(64); // the most keys a form has
     setFont(keyFont);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     KeyPanel = new TQORBasePanel(this);
@@ -216,7 +266,7 @@ TQORCalcFormBase::~TQORCalcFormBase() = default;
 
 QToolButton* TQORCalcFormBase::NewKey(const TQORKeyLook& look)
 {
-    auto* button = new QToolButton(KeyPanel);
+    auto* button = new TKeyButton(KeyPanel);
     button->setObjectName(QString::fromLatin1(look.Name));
     // Keys take the focus from Tab only (a click leaves it where typing goes on working).
     button->setFocusPolicy(Qt::TabFocus);
@@ -246,7 +296,7 @@ void TQORCalcFormBase::ApplyKeyTexts(const KeyText& key) const
         if (button->toolTip() != hint)
             button->setToolTip(hint);
     }
-    const std::string name = button->objectName().toStdString();
+    const std::string_view name = key.Look.Name;
     const QString accessibleName = ToQString(KeyAccessibleName(name, ProgrammersKeys()));
     if (button->accessibleName() != accessibleName)
         button->setAccessibleName(accessibleName);
@@ -293,30 +343,22 @@ void TQORCalcFormBase::SetKeyText(QToolButton* key, const QString& text)
 void TQORCalcFormBase::FitKeyCaption(QToolButton* key) const
 {
     // Before the grid has laid the keys out they have no size of their own to fit.
-    if (!keysLaidOut_ || key->toolButtonStyle() != Qt::ToolButtonTextOnly)
+    if (!keysLaidOut_)
         return;
-    // The style draws the caption centred inside the key's frame.
-    const int frame = key->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, key);
-    const qreal room = key->contentsRect().width() - 2 * (frame + CaptionAir);
     const QFont base = KeyPanel->font();
-    const int pixels = FittedCaptionPixels(base, *key, key->text(), room);
-    if (pixels == 0) {
-        if (key->testAttribute(Qt::WA_SetFont))
-            key->setFont(QFont()); // back to the inherited font
-        return;
-    }
-    QFont font = base;
-    font.setPixelSize(pixels);
-    if (!key->testAttribute(Qt::WA_SetFont) || key->font() != font)
-        key->setFont(font);
+    FitCaption(key, base, TCaptionFits::For(base, KeyPanel->logicalDpiY()));
 }
 
 void TQORCalcFormBase::FitKeyCaptions() const
 {
-    if (KeyPanel == nullptr)
-        return; // the form's own font is set before its keys exist
+    // The form's own font is set before its keys exist, and they are fitted once laid out.
+    if (KeyPanel == nullptr || !keysLaidOut_)
+        return;
+    // The keys share the panel's font and screen: the answers for them are looked up once.
+    const QFont base = KeyPanel->font();
+    TCaptionFits& fits = TCaptionFits::For(base, KeyPanel->logicalDpiY());
     for (auto* key : KeyPanel->findChildren<QToolButton*>(Qt::FindDirectChildrenOnly))
-        FitKeyCaption(key);
+        FitCaption(key, base, fits);
 }
 
 void TQORCalcFormBase::changeEvent(QEvent* event)
@@ -344,28 +386,36 @@ void TQORCalcFormBase::UpdateTabOrder()
 {
     // Everything Tab reaches, by where it is on the form: rows top to bottom (keys of a row
     // share their top), left to right inside a row; the tape beside the keys comes last.
-    std::vector<QWidget*> chain;
+    struct TStop {
+        int Top;
+        int Left;
+        QWidget* Widget;
+    };
+    std::vector<TStop> chain;
     for (auto* widget : findChildren<QWidget*>()) {
         if ((widget->focusPolicy() & Qt::TabFocus) != 0 && !widget->isHidden()
-            && widget != TapeView)
-            chain.push_back(widget);
+            && widget != TapeView) {
+            const QPoint topLeft = widget->mapTo(this, QPoint(0, 0));
+            chain.push_back({topLeft.y(), topLeft.x(), widget});
+        }
     }
     // A control's inner editor (a spin edit's line edit) goes with its control.
-    std::erase_if(chain, [&chain](QWidget* widget) {
-        return std::any_of(chain.begin(), chain.end(), [widget](QWidget* other) {
-            return other->focusProxy() == widget && other->isAncestorOf(widget);
-        });
+    std::vector<const QWidget*> inner;
+    for (const TStop& stop : chain) {
+        const QWidget* proxy = stop.Widget->focusProxy();
+        if (proxy != nullptr && stop.Widget->isAncestorOf(proxy))
+            inner.push_back(proxy);
+    }
+    std::erase_if(chain, [&inner](const TStop& stop) {
+        return std::find(inner.begin(), inner.end(), stop.Widget) != inner.end();
     });
-    const auto place = [this](QWidget* widget) {
-        const QPoint topLeft = widget->mapTo(this, QPoint(0, 0));
-        return std::pair(topLeft.y(), topLeft.x());
-    };
-    std::stable_sort(chain.begin(), chain.end(),
-                     [&place](QWidget* a, QWidget* b) { return place(a) < place(b); });
+    std::stable_sort(chain.begin(), chain.end(), [](const TStop& a, const TStop& b) {
+        return std::pair(a.Top, a.Left) < std::pair(b.Top, b.Left);
+    });
     if (TapeView != nullptr && !TapeView->isHidden())
-        chain.push_back(TapeView);
+        chain.push_back({0, 0, TapeView});
     for (std::size_t i = 1; i < chain.size(); ++i)
-        setTabOrder(chain[i - 1], chain[i]);
+        setTabOrder(chain[i - 1].Widget, chain[i].Widget);
 }
 
 void TQORCalcFormBase::LayOutGrid(const std::vector<TGridCell>& cells, int rows)
@@ -425,13 +475,14 @@ void TQORCalcFormBase::SetFormSize(int width, int height)
     setFixedSize(width + (tape ? TapeWidth + 5 : 0), height);
 }
 
-void TQORCalcFormBase::SetTapeModel(TQORTapeModel* model)
+void TQORCalcFormBase::SetTapeModel(TQORTapeModel* model) { tapeModel_ = model; }
+
+void TQORCalcFormBase::MakeTapeView()
 {
-    tapeModel_ = model;
+    // Made when the tape is first shown: most forms never show it.
+    TQORTapeModel* model = tapeModel_;
     TapeView = new QListView(this);
     TapeView->setObjectName(QStringLiteral("TapeView"));
-    // The view takes its model when it is first shown (see SetShowTape): most forms never show
-    // their tape.
     TapeView->setUniformItemSizes(true);
     TapeView->setSelectionMode(QAbstractItemView::ExtendedSelection);
     TapeView->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -439,7 +490,7 @@ void TQORCalcFormBase::SetTapeModel(TQORTapeModel* model)
     TapeView->setToolTip(ToQString(rsTapeHint()));
     TapeView->setAccessibleName(ToQString(rsTapeHint()));
     TapeView->setAccessibleDescription(ToQString(rsTapeAccDescription()));
-    TapeView->hide();
+    TapeView->setModel(model);
     auto* copy = new QAction(ToQString(rsTapeCopy()), TapeView);
     copy->setObjectName(QStringLiteral("TapeCopyAction"));
     connect(copy, &QAction::triggered, model, [model] { model->CopyToClipboard(); });
@@ -453,11 +504,11 @@ void TQORCalcFormBase::SetTapeModel(TQORTapeModel* model)
 
 void TQORCalcFormBase::SetShowTape(bool value)
 {
-    if (TapeView == nullptr || value == showTape_)
+    if (tapeModel_ == nullptr || value == showTape_)
         return;
     showTape_ = value;
-    if (value && TapeView->model() == nullptr)
-        TapeView->setModel(tapeModel_);
+    if (value && TapeView == nullptr)
+        MakeTapeView();
     TapeView->setVisible(value);
     UpdateTabOrder();
     if (formWidth_ > 0)

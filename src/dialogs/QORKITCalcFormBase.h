@@ -175,7 +175,8 @@ public:
 
     // The paper tape beside the keys. Off by default, and then the form keeps its size; on, the
     // form grows to the right by the tape's width (TapeWidth) and shows the engine's tape,
-    // scrolled to the newest line. The view's context menu copies the tape (text and CSV).
+    // scrolled to the newest line. The view's context menu copies the tape (text and CSV). The
+    // view is made when the tape is first shown; until then TapeView is null.
     static constexpr int TapeWidth = 170;
     QListView* TapeView = nullptr;
     bool GetShowTape() const { return showTape_; }
@@ -285,8 +286,8 @@ protected:
     void SetPanelText(TQORBasePanel* panel, const QString& text, bool fitted = false);
     // The form's size without the tape (the tape adds its width when shown).
     void SetFormSize(int width, int height);
-    // Gives the form its tape (made after the engine's own handlers are set); the view stays
-    // hidden until SetShowTape(true).
+    // Gives the form its tape (made after the engine's own handlers are set); the view is made
+    // by the first SetShowTape(true).
     void SetTapeModel(TQORTapeModel* model);
     // Sets up the keyboard preview on the form and every child it has by now.
     void InstallKeyPreview();
@@ -309,6 +310,7 @@ private:
     bool PreviewKey(QKeyEvent* event);
     bool PreviewChar(QKeyEvent* event, char ch);
     void LayOutGrid(const std::vector<TGridCell>& cells, int rows);
+    void MakeTapeView();
 
     // A key member of a form derived from this class, kept as a member of this class: it is
     // applied to this form only, which is of the class the member was taken from.

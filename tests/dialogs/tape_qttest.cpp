@@ -133,10 +133,10 @@ TYPED_TEST(TapeViewTest, OffByDefaultAndWidensTheFormWhenShown)
 {
     TypeParam form;
     const QSize designed = form.size();
-    ASSERT_NE(form.TapeView, nullptr);
     EXPECT_FALSE(form.GetShowTape());
-    EXPECT_TRUE(form.TapeView->isHidden());
+    EXPECT_EQ(form.TapeView, nullptr); // made when the tape is first shown
     form.SetShowTape(true);
+    ASSERT_NE(form.TapeView, nullptr);
     EXPECT_EQ(form.size(),
               QSize(designed.width() + TQORCalcFormBase::TapeWidth + 5, designed.height()));
     EXPECT_FALSE(form.TapeView->isHidden());
@@ -145,6 +145,7 @@ TYPED_TEST(TapeViewTest, OffByDefaultAndWidensTheFormWhenShown)
     EXPECT_FALSE(form.TapeView->actions().isEmpty()); // copy from the context menu
     form.SetShowTape(false);
     EXPECT_EQ(form.size(), designed);
+    EXPECT_TRUE(form.TapeView->isHidden());
 }
 
 TYPED_TEST(TapeViewTest, TypedKeysAppearOnTheTape)
