@@ -13,6 +13,7 @@
 
 #include <functional>
 #include <memory>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -95,6 +96,9 @@ std::vector<ForwardedCase> ForwardedCases()
                 cases.push_back({std::string(kind.Name) + "_" + row.Name, kind, row});
     return cases;
 }
+
+void PrintTo(const ForwardedCase& c, std::ostream* os) { *os << c.Name; }
+void PrintTo(const ControlKind& kind, std::ostream* os) { *os << kind.Name; }
 
 class CurrForwardersTest : public test::GlobalStateTest,
                            public ::testing::WithParamInterface<ForwardedCase> {
