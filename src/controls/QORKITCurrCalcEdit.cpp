@@ -3,41 +3,17 @@
 #include "QORKITMath.h"
 
 #include <cmath>
-#include <utility>
 
 namespace qorkit {
 
 // ---- TQORCurrCalcEditBase ----------------------------------------------------------------------
 
 TQORCurrCalcEditBase::TQORCurrCalcEditBase(QWidget* parent, TQORBaseCurrEdit* edit)
-    : TQORCalcEditBase(parent, QORStandardCalcKind), currEdit_(edit)
+    : TQORCalcEditBase(parent, QORStandardCalcKind), TQORCurrForwarders(edit)
 {
-    currEdit_->setParent(this);
-    AutoInitialize(currEdit_);
-    using EditSignal = void (TQORBaseCurrEdit::*)();
-    using OwnSignal = void (TQORCurrCalcEditBase::*)();
-    const std::pair<EditSignal, OwnSignal> forwarded[] = {
-        {&TQORBaseCurrEdit::formatTypeChanged, &TQORCurrCalcEditBase::formatTypeChanged},
-        {&TQORBaseCurrEdit::blankWhenZeroChanged, &TQORCurrCalcEditBase::blankWhenZeroChanged},
-        {&TQORBaseCurrEdit::currencyFormatChanged, &TQORCurrCalcEditBase::currencyFormatChanged},
-        {&TQORBaseCurrEdit::currencyStrChanged, &TQORCurrCalcEditBase::currencyStrChanged},
-        {&TQORBaseCurrEdit::negativeFormatChanged, &TQORCurrCalcEditBase::negativeFormatChanged},
-        {&TQORBaseCurrEdit::thousandSeparatorsChanged,
-         &TQORCurrCalcEditBase::thousandSeparatorsChanged},
-        {&TQORBaseCurrEdit::showThousandSeparatorsChanged,
-         &TQORCurrCalcEditBase::showThousandSeparatorsChanged},
-        {&TQORBaseCurrEdit::customDecimalChanged, &TQORCurrCalcEditBase::customDecimalChanged},
-        {&TQORBaseCurrEdit::customThousandsChanged, &TQORCurrCalcEditBase::customThousandsChanged},
-        {&TQORBaseCurrEdit::customSeparatorsChanged,
-         &TQORCurrCalcEditBase::customSeparatorsChanged},
-    };
-    for (const auto& [from, to] : forwarded)
-        connect(currEdit_, from, this, to);
-    currEdit_->SetOnSpecialColor([this](QObject*, QColor& background, QColor& text) {
-        if (onSpecialColor_)
-            onSpecialColor_(this, background, text);
-        Q_EMIT specialColor(&background, &text);
-    });
+    edit->setParent(this);
+    AutoInitialize(edit);
+    PassOnCurrencySignals(this);
     connect(this, &TQORCalcEditBase::calcClick, this, [this] {
         if (onStartPopup_)
             onStartPopup_(this);
@@ -53,8 +29,8 @@ TQORCurrCalcEditBase::TQORCurrCalcEditBase(QWidget* parent, TQORBaseCurrEdit* ed
 void TQORCurrCalcEditBase::SetValue(Extended value)
 {
     // A value that is not finite is passed on unrounded, for the edit to refuse and report.
-    currEdit_->SetScaledFloat(std::isfinite(value) ? RoundDP(value, currEdit_->GetDecimalPlaces())
-                                                   : value);
+    GetCurrEdit()->SetScaledFloat(
+        std::isfinite(value) ? RoundDP(value, GetCurrEdit()->GetDecimalPlaces()) : value);
 }
 
 TQORCalculator* TQORCurrCalcEditBase::GetCalculatorControl() const

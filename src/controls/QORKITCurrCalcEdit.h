@@ -16,12 +16,16 @@
 #include "QORKITCalcEdit.h"
 #include "QORKITCalculator.h"
 #include "QORKITCurrEdit.h"
+#include "QORKITCurrForwarders.h"
 #include "QORKITQtEnums.h"
 #include "qorkit_widgets_export.h"
 
 namespace qorkit {
 
-class QORKIT_WIDGETS_EXPORT TQORCurrCalcEditBase : public TQORCalcEditBase {
+// The currency settings (FormatType ... CustomSeparators) and OnSpecialColor are the inner
+// edit's, through TQORCurrForwarders.
+class QORKIT_WIDGETS_EXPORT TQORCurrCalcEditBase : public TQORCalcEditBase,
+                                                   public TQORCurrForwarders {
     Q_OBJECT
     Q_PROPERTY(TQORCalculator* CalculatorControl READ GetCalculatorControl WRITE
                    SetCalculatorControl NOTIFY calculatorControlChanged)
@@ -47,51 +51,18 @@ class QORKIT_WIDGETS_EXPORT TQORCurrCalcEditBase : public TQORCalcEditBase {
                    customSeparatorsChanged)
 
 public:
-    TQORBaseCurrEdit* GetCurrEdit() const { return currEdit_; }
-
     // The amount shown (see the top of this header).
-    Extended GetValue() override { return currEdit_->GetScaledFloat(); }
+    Extended GetValue() override { return GetCurrEdit()->GetScaledFloat(); }
     // Rounded to the decimals, halves away from zero; refused like typed text.
     void SetValue(Extended value) override;
 
     TQORCalculator* GetCalculatorControl() const;
     void SetCalculatorControl(TQORCalculator* calculator) { SetCalculatorComponent(calculator); }
 
-    TQORCurrencyFormatType GetFormatType() const { return currEdit_->GetFormatType(); }
-    void SetFormatType(TQORCurrencyFormatType value) { currEdit_->SetFormatType(value); }
-    bool GetBlankWhenZero() const { return currEdit_->GetBlankWhenZero(); }
-    void SetBlankWhenZero(bool value) { currEdit_->SetBlankWhenZero(value); }
-    TCurrencyFormatType GetCurrencyFormat() const { return currEdit_->GetCurrencyFormat(); }
-    void SetCurrencyFormat(TCurrencyFormatType value) { currEdit_->SetCurrencyFormat(value); }
-    QString GetCurrencyStr() const { return currEdit_->GetCurrencyStr(); }
-    // Only with FormatType cftCustom, as on the currency edit.
-    void SetCurrencyStr(const QString& value) { currEdit_->SetCurrencyStr(value); }
-    TNegativeFormatType GetNegativeFormat() const { return currEdit_->GetNegativeFormat(); }
-    void SetNegativeFormat(TNegativeFormatType value) { currEdit_->SetNegativeFormat(value); }
-    TQORThousandSeparators GetThousandSeparators() const
-    {
-        return currEdit_->GetThousandSeparators();
-    }
-    void SetThousandSeparators(TQORThousandSeparators value)
-    {
-        currEdit_->SetThousandSeparators(value);
-    }
-    bool GetShowThousandSeparators() const { return currEdit_->GetShowThousandSeparators(); }
-    void SetShowThousandSeparators(bool value) { currEdit_->SetShowThousandSeparators(value); }
-    char GetCustomDecimal() const { return currEdit_->GetCustomDecimal(); }
-    void SetCustomDecimal(char value) { currEdit_->SetCustomDecimal(value); }
-    char GetCustomThousands() const { return currEdit_->GetCustomThousands(); }
-    void SetCustomThousands(char value) { currEdit_->SetCustomThousands(value); }
-    bool GetCustomSeparators() const { return currEdit_->GetCustomSeparators(); }
-    void SetCustomSeparators(bool value) { currEdit_->SetCustomSeparators(value); }
-
     void SetOnStartPopup(TQORNotifyEvent e) { onStartPopup_ = std::move(e); }
     const TQORNotifyEvent& GetOnStartPopup() const { return onStartPopup_; }
     void SetOnEndPopup(TQORNotifyEvent e) { onEndPopup_ = std::move(e); }
     const TQORNotifyEvent& GetOnEndPopup() const { return onEndPopup_; }
-    // The inner edit's colour hook, with this control as the sender.
-    void SetOnSpecialColor(TQORSpecialColorEvent e) { onSpecialColor_ = std::move(e); }
-    const TQORSpecialColorEvent& GetOnSpecialColor() const { return onSpecialColor_; }
 
 Q_SIGNALS:
     void startPopup();
@@ -113,21 +84,14 @@ protected:
     // Takes `edit` (a new currency edit) as the inner edit.
     TQORCurrCalcEditBase(QWidget* parent, TQORBaseCurrEdit* edit);
 
-    std::uint8_t CalcDecimals() const override { return currEdit_->GetDecimalPlaces(); }
-    void SetCalcDecimals(std::uint8_t value) override { currEdit_->SetDecimals(value); }
+    std::uint8_t CalcDecimals() const override { return GetCurrEdit()->GetDecimalPlaces(); }
+    void SetCalcDecimals(std::uint8_t value) override { GetCurrEdit()->SetDecimals(value); }
     // A money amount keeps its decimals in the calculator.
     bool CalcTrimTrailingZeroes() const override { return false; }
 
 private:
-    QChar GetCustomDecimalChar() const { return QLatin1Char(GetCustomDecimal()); }
-    void SetCustomDecimalChar(QChar value) { SetCustomDecimal(value.toLatin1()); }
-    QChar GetCustomThousandsChar() const { return QLatin1Char(GetCustomThousands()); }
-    void SetCustomThousandsChar(QChar value) { SetCustomThousands(value.toLatin1()); }
-
-    TQORBaseCurrEdit* currEdit_;
     TQORNotifyEvent onStartPopup_;
     TQORNotifyEvent onEndPopup_;
-    TQORSpecialColorEvent onSpecialColor_;
 };
 
 // Amount AsQORCurrency: a signed 32-bit count of cents.

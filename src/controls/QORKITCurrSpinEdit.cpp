@@ -7,26 +7,12 @@ namespace qorkit {
 // ---- TQORBaseCurrSpinEdit ----------------------------------------------------------------------
 
 TQORBaseCurrSpinEdit::TQORBaseCurrSpinEdit(TQORBaseCurrEdit* edit, QWidget* parent)
-    : TQORBaseSpinEdit(edit, parent), currEdit_(edit)
+    : TQORBaseSpinEdit(edit, parent), TQORCurrForwarders(edit)
 {
     using Own = TQORBaseCurrSpinEdit;
-    using CurrSignal = void (TQORBaseCurrEdit::*)();
-    const std::pair<CurrSignal, void (Own::*)()> currency[] = {
-        {&TQORBaseCurrEdit::asFloatChanged, &Own::asFloatChanged},
-        {&TQORBaseCurrEdit::formatTypeChanged, &Own::formatTypeChanged},
-        {&TQORBaseCurrEdit::blankWhenZeroChanged, &Own::blankWhenZeroChanged},
-        {&TQORBaseCurrEdit::currencyFormatChanged, &Own::currencyFormatChanged},
-        {&TQORBaseCurrEdit::currencyStrChanged, &Own::currencyStrChanged},
-        {&TQORBaseCurrEdit::decimalPlacesChanged, &Own::decimalPlacesChanged},
-        {&TQORBaseCurrEdit::negativeFormatChanged, &Own::negativeFormatChanged},
-        {&TQORBaseCurrEdit::thousandSeparatorsChanged, &Own::thousandSeparatorsChanged},
-        {&TQORBaseCurrEdit::showThousandSeparatorsChanged, &Own::showThousandSeparatorsChanged},
-        {&TQORBaseCurrEdit::customThousandsChanged, &Own::customThousandsChanged},
-        {&TQORBaseCurrEdit::customDecimalChanged, &Own::customDecimalChanged},
-        {&TQORBaseCurrEdit::customSeparatorsChanged, &Own::customSeparatorsChanged},
-    };
-    for (const auto& [from, to] : currency)
-        connect(currEdit_, from, this, to);
+    PassOnCurrencySignals(this);
+    connect(edit, &TQORBaseCurrEdit::asFloatChanged, this, &Own::asFloatChanged);
+    connect(edit, &TQORBaseCurrEdit::decimalPlacesChanged, this, &Own::decimalPlacesChanged);
     using BoolSignal = void (TQORBaseEdit::*)(bool);
     const std::pair<BoolSignal, void (Own::*)()> switches[] = {
         {&TQORBaseEdit::storeValueChanged, &Own::storeValueChanged},
@@ -39,26 +25,21 @@ TQORBaseCurrSpinEdit::TQORBaseCurrSpinEdit(TQORBaseCurrEdit* edit, QWidget* pare
         {&TQORBaseEdit::tabStopChanged, &Own::tabStopChanged},
     };
     for (const auto& [from, to] : switches)
-        connect(currEdit_, from, this, to);
-    connect(currEdit_, &TQORBaseEdit::alignmentChanged, this, &Own::alignmentChanged);
-    connect(currEdit_, &TQORBaseEdit::maxLengthChanged, this, &Own::maxLengthChanged);
-    connect(currEdit_, &TQORBaseEdit::nullStrChanged, this, &Own::nullStrChanged);
-    connect(currEdit_, &TQORBaseEdit::asStringChanged, this, &Own::asStringChanged);
+        connect(edit, from, this, to);
+    connect(edit, &TQORBaseEdit::alignmentChanged, this, &Own::alignmentChanged);
+    connect(edit, &TQORBaseEdit::maxLengthChanged, this, &Own::maxLengthChanged);
+    connect(edit, &TQORBaseEdit::nullStrChanged, this, &Own::nullStrChanged);
+    connect(edit, &TQORBaseEdit::asStringChanged, this, &Own::asStringChanged);
 
-    currEdit_->SetOnChange([this](QObject*) {
+    edit->SetOnChange([this](QObject*) {
         if (onChange_)
             onChange_(this);
         Q_EMIT change();
     });
-    currEdit_->SetOnNull([this](QObject*) {
+    edit->SetOnNull([this](QObject*) {
         if (onNull_)
             onNull_(this);
         Q_EMIT null();
-    });
-    currEdit_->SetOnSpecialColor([this](QObject*, QColor& background, QColor& text) {
-        if (onSpecialColor_)
-            onSpecialColor_(this, background, text);
-        Q_EMIT specialColor(&background, &text);
     });
 }
 

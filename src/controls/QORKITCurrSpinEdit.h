@@ -14,6 +14,7 @@
 
 #include "QORKITBaseControls.h"
 #include "QORKITCurrEdit.h"
+#include "QORKITCurrForwarders.h"
 #include "QORKITQtEnums.h"
 #include "qorkit_widgets_export.h"
 
@@ -24,7 +25,10 @@
 
 namespace qorkit {
 
-class QORKIT_WIDGETS_EXPORT TQORBaseCurrSpinEdit : public TQORBaseSpinEdit {
+// The currency settings (FormatType ... CustomSeparators) and OnSpecialColor are the inner
+// edit's, through TQORCurrForwarders; the edit settings below are forwarded here.
+class QORKIT_WIDGETS_EXPORT TQORBaseCurrSpinEdit : public TQORBaseSpinEdit,
+                                                   public TQORCurrForwarders {
     Q_OBJECT
     Q_PROPERTY(double AsFloat READ GetAsDouble WRITE SetAsDouble NOTIFY asFloatChanged)
     Q_PROPERTY(bool StoreValue READ GetStoreValue WRITE SetStoreValue NOTIFY storeValueChanged)
@@ -67,74 +71,44 @@ class QORKIT_WIDGETS_EXPORT TQORBaseCurrSpinEdit : public TQORBaseSpinEdit {
                    customSeparatorsChanged)
 
 public:
-    TQORBaseCurrEdit* GetCurrEdit() const { return currEdit_; }
-
     // The stored value of the inner edit (the amount type's units), unclamped.
-    Extended GetAsFloat() { return currEdit_->GetAsFloat(); }
+    Extended GetAsFloat() { return GetCurrEdit()->GetAsFloat(); }
     // Clamped to Min/Max like SetValue.
     void SetAsFloat(Extended value) { SetValue(value); }
 
-    bool GetStoreValue() const { return currEdit_->GetStoreValue(); }
-    void SetStoreValue(bool value) { currEdit_->SetStoreValue(value); }
-    TQORCurrencyFormatType GetFormatType() const { return currEdit_->GetFormatType(); }
-    void SetFormatType(TQORCurrencyFormatType value) { currEdit_->SetFormatType(value); }
-    Qt::Alignment GetAlignment() const { return currEdit_->GetAlignment(); }
-    void SetAlignment(Qt::Alignment value) { currEdit_->SetAlignment(value); }
-    bool GetAutoSelectClick() const { return currEdit_->GetAutoSelectClick(); }
-    void SetAutoSelectClick(bool value) { currEdit_->SetAutoSelectClick(value); }
-    bool GetAutoSelect() const { return currEdit_->GetAutoSelect(); }
-    void SetAutoSelect(bool value) { currEdit_->SetAutoSelect(value); }
-    bool GetAllowKbdNull() const { return currEdit_->GetAllowKbdNull(); }
-    void SetAllowKbdNull(bool value) { currEdit_->SetAllowKbdNull(value); }
-    bool GetBlankWhenNull() const { return currEdit_->GetBlankWhenNull(); }
-    void SetBlankWhenNull(bool value) { currEdit_->SetBlankWhenNull(value); }
-    bool GetBlankWhenZero() const { return currEdit_->GetBlankWhenZero(); }
-    void SetBlankWhenZero(bool value) { currEdit_->SetBlankWhenZero(value); }
-    bool GetBlankIsNull() const { return currEdit_->GetBlankIsNull(); }
-    void SetBlankIsNull(bool value) { currEdit_->SetBlankIsNull(value); }
-    TCurrencyFormatType GetCurrencyFormat() const { return currEdit_->GetCurrencyFormat(); }
-    void SetCurrencyFormat(TCurrencyFormatType value) { currEdit_->SetCurrencyFormat(value); }
-    QString GetCurrencyStr() const { return currEdit_->GetCurrencyStr(); }
-    // Only with FormatType cftCustom, as on the currency edit.
-    void SetCurrencyStr(const QString& value) { currEdit_->SetCurrencyStr(value); }
-    std::uint8_t GetDecimalPlaces() const { return currEdit_->GetDecimalPlaces(); }
-    void SetDecimalPlaces(std::uint8_t value) { currEdit_->SetDecimals(value); }
-    int GetMaxLength() const { return currEdit_->GetMaxLength(); }
-    void SetMaxLength(int value) { currEdit_->SetMaxLength(value); }
-    TNegativeFormatType GetNegativeFormat() const { return currEdit_->GetNegativeFormat(); }
-    void SetNegativeFormat(TNegativeFormatType value) { currEdit_->SetNegativeFormat(value); }
-    bool GetNull() const { return currEdit_->GetNull(); }
-    void SetNull(bool value) { currEdit_->SetNull(value); }
-    QString GetNullStr() const { return currEdit_->GetNullStr(); }
-    void SetNullStr(const QString& value) { currEdit_->SetNullStr(value); }
-    TQORThousandSeparators GetThousandSeparators() const
-    {
-        return currEdit_->GetThousandSeparators();
-    }
-    void SetThousandSeparators(TQORThousandSeparators value)
-    {
-        currEdit_->SetThousandSeparators(value);
-    }
-    bool GetShowThousandSeparators() const { return currEdit_->GetShowThousandSeparators(); }
-    void SetShowThousandSeparators(bool value) { currEdit_->SetShowThousandSeparators(value); }
-    bool GetTabStop() const { return currEdit_->GetTabStop(); }
-    void SetTabStop(bool value) { currEdit_->SetTabStop(value); }
-    QString GetText() const { return currEdit_->text(); }
-    void SetAsString(const QString& value) { currEdit_->SetAsString(value); }
-    char GetCustomThousands() const { return currEdit_->GetCustomThousands(); }
-    void SetCustomThousands(char value) { currEdit_->SetCustomThousands(value); }
-    char GetCustomDecimal() const { return currEdit_->GetCustomDecimal(); }
-    void SetCustomDecimal(char value) { currEdit_->SetCustomDecimal(value); }
-    bool GetCustomSeparators() const { return currEdit_->GetCustomSeparators(); }
-    void SetCustomSeparators(bool value) { currEdit_->SetCustomSeparators(value); }
+    bool GetStoreValue() const { return GetCurrEdit()->GetStoreValue(); }
+    void SetStoreValue(bool value) { GetCurrEdit()->SetStoreValue(value); }
+    Qt::Alignment GetAlignment() const { return GetCurrEdit()->GetAlignment(); }
+    void SetAlignment(Qt::Alignment value) { GetCurrEdit()->SetAlignment(value); }
+    bool GetAutoSelectClick() const { return GetCurrEdit()->GetAutoSelectClick(); }
+    void SetAutoSelectClick(bool value) { GetCurrEdit()->SetAutoSelectClick(value); }
+    bool GetAutoSelect() const { return GetCurrEdit()->GetAutoSelect(); }
+    void SetAutoSelect(bool value) { GetCurrEdit()->SetAutoSelect(value); }
+    bool GetAllowKbdNull() const { return GetCurrEdit()->GetAllowKbdNull(); }
+    void SetAllowKbdNull(bool value) { GetCurrEdit()->SetAllowKbdNull(value); }
+    bool GetBlankWhenNull() const { return GetCurrEdit()->GetBlankWhenNull(); }
+    void SetBlankWhenNull(bool value) { GetCurrEdit()->SetBlankWhenNull(value); }
+    bool GetBlankIsNull() const { return GetCurrEdit()->GetBlankIsNull(); }
+    void SetBlankIsNull(bool value) { GetCurrEdit()->SetBlankIsNull(value); }
+    std::uint8_t GetDecimalPlaces() const { return GetCurrEdit()->GetDecimalPlaces(); }
+    void SetDecimalPlaces(std::uint8_t value) { GetCurrEdit()->SetDecimals(value); }
+    int GetMaxLength() const { return GetCurrEdit()->GetMaxLength(); }
+    void SetMaxLength(int value) { GetCurrEdit()->SetMaxLength(value); }
+    bool GetNull() const { return GetCurrEdit()->GetNull(); }
+    void SetNull(bool value) { GetCurrEdit()->SetNull(value); }
+    QString GetNullStr() const { return GetCurrEdit()->GetNullStr(); }
+    void SetNullStr(const QString& value) { GetCurrEdit()->SetNullStr(value); }
+    bool GetTabStop() const { return GetCurrEdit()->GetTabStop(); }
+    void SetTabStop(bool value) { GetCurrEdit()->SetTabStop(value); }
+    QString GetText() const { return GetCurrEdit()->text(); }
+    void SetAsString(const QString& value) { GetCurrEdit()->SetAsString(value); }
 
-    // The inner edit's events, with this control as the sender (and as the signals below).
+    // The inner edit's events, with this control as the sender (and as the signals below);
+    // OnSpecialColor likewise.
     void SetOnChange(TQORNotifyEvent e) { onChange_ = std::move(e); }
     const TQORNotifyEvent& GetOnChange() const { return onChange_; }
     void SetOnNull(TQORNotifyEvent e) { onNull_ = std::move(e); }
     const TQORNotifyEvent& GetOnNull() const { return onNull_; }
-    void SetOnSpecialColor(TQORSpecialColorEvent e) { onSpecialColor_ = std::move(e); }
-    const TQORSpecialColorEvent& GetOnSpecialColor() const { return onSpecialColor_; }
 
 Q_SIGNALS:
     void change();
@@ -170,8 +144,8 @@ protected:
     // Takes `edit` (a new currency edit) as the inner edit.
     TQORBaseCurrSpinEdit(TQORBaseCurrEdit* edit, QWidget* parent);
 
-    Extended ReadEditorValue() override { return currEdit_->GetAsFloat(); }
-    void WriteEditorValue(Extended value) override { currEdit_->SetAsFloat(value); }
+    Extended ReadEditorValue() override { return GetCurrEdit()->GetAsFloat(); }
+    void WriteEditorValue(Extended value) override { GetCurrEdit()->SetAsFloat(value); }
 
     // Typed views of the range for the amount classes' properties, clamped to `T`.
     template<typename T> static T ToAmount(Extended value)
@@ -188,15 +162,9 @@ private:
     {
         SetDecimalPlaces(static_cast<std::uint8_t>(std::clamp(value, 0, 255)));
     }
-    QChar GetCustomDecimalChar() const { return QLatin1Char(GetCustomDecimal()); }
-    void SetCustomDecimalChar(QChar value) { SetCustomDecimal(value.toLatin1()); }
-    QChar GetCustomThousandsChar() const { return QLatin1Char(GetCustomThousands()); }
-    void SetCustomThousandsChar(QChar value) { SetCustomThousands(value.toLatin1()); }
 
-    TQORBaseCurrEdit* currEdit_;
     TQORNotifyEvent onChange_;
     TQORNotifyEvent onNull_;
-    TQORSpecialColorEvent onSpecialColor_;
 };
 
 // Max, Min, Value, Step and the amount AsQORCurrency in signed 32-bit cents.
