@@ -20,6 +20,8 @@ constexpr TResourceText kBaseTexts[] = {QORKIT_BASE_TEXTS(QORKIT_LIST_TEXT)};
 
 void SetTranslationHook(TranslationHook hook) { Hook() = std::move(hook); }
 
+bool HasTranslationHook() noexcept { return static_cast<bool>(Hook()); }
+
 std::string LoadResString(std::string_view context, std::string_view source)
 {
     if (const auto& hook = Hook()) {

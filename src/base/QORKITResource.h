@@ -19,6 +19,9 @@ using TranslationHook
 
 // Installs the process-wide hook (an empty function restores the English texts).
 QORKIT_BASE_EXPORT void SetTranslationHook(TranslationHook hook);
+// Whether a hook is installed. Without one every text is its built-in English text, which
+// never changes: callers may keep what they made of it.
+QORKIT_BASE_EXPORT bool HasTranslationHook() noexcept;
 
 // The current text of a resource string.
 QORKIT_BASE_EXPORT std::string LoadResString(std::string_view context, std::string_view source);

@@ -211,17 +211,69 @@ void FitCaption(QToolButton* key, const QFont& base, TCaptionFits& fits)
 
 // A calculator key: a tool button whose size the key grid fixes. Once fixed, that size is its
 // size hint, so laying the grid out does not measure the caption and icon it overrides anyway.
+// A library text as a QString. The built-in English texts never change, so while no
+// translation hook is installed each is converted once per process; with a hook installed
+// every call asks the hook again (translators may come and go at any time).
+QString LibraryText(TQORTextFn text)
+{
+    if (HasTranslationHook())
+        return ToQString(text());
+    static std::unordered_map<TQORTextFn, QString> converted;
+    auto [known, made] = converted.try_emplace(text);
+    if (made)
+        known->second = ToQString(text());
+    return known->second;
+}
+
+// A key's accessible name and description, by its object name, the same way.
+struct TKeyAccessTexts {
+    QString Name;
+    QString Description;
+};
+
+TKeyAccessTexts MakeKeyAccessTexts(std::string_view key, bool programmers)
+{
+    return {ToQString(KeyAccessibleName(key, programmers)),
+            ToQString(KeyAccessibleDescription(key, programmers))};
+}
+
+const TKeyAccessTexts& KeyAccessTexts(std::string_view key, bool programmers)
+{
+    static TKeyAccessTexts translated;
+    if (HasTranslationHook())
+        return translated = MakeKeyAccessTexts(key, programmers);
+    static std::unordered_map<std::string, TKeyAccessTexts> converted[2]; // by `programmers`
+    auto& texts = converted[programmers ? 1 : 0];
+    auto known = texts.find(std::string(key));
+    if (known == texts.end())
+        known = texts.emplace(std::string(key), MakeKeyAccessTexts(key, programmers)).first;
+    return known->second;
+}
+
+// The form previews what reaches a key (typed keys, presses) itself, without an event filter
+// that every other event of the key would pass through.
 class TKeyButton final : public QToolButton {
 public:
-    using QToolButton::QToolButton;
+    TKeyButton(QWidget* panel, QObject* form) : QToolButton(panel), form_(form) { }
     QSize sizeHint() const override { return Fixed() ? minimumSize() : QToolButton::sizeHint(); }
     QSize minimumSizeHint() const override
     {
         return Fixed() ? minimumSize() : QToolButton::minimumSizeHint();
     }
 
+protected:
+    bool event(QEvent* event) override
+    {
+        const auto type = event->type();
+        if ((type == QEvent::KeyPress || type == QEvent::MouseButtonPress)
+            && form_->eventFilter(this, event))
+            return true;
+        return QToolButton::event(event);
+    }
+
 private:
     bool Fixed() const { return !minimumSize().isEmpty() && minimumSize() == maximumSize(); }
+    QObject* form_;
 };
 
 } // namespace
@@ -266,7 +318,7 @@ TQORCalcFormBase::~TQORCalcFormBase() = default;
 
 QToolButton* TQORCalcFormBase::NewKey(const TQORKeyLook& look)
 {
-    auto* button = new TKeyButton(KeyPanel);
+    auto* button = new TKeyButton(KeyPanel, this);
     button->setObjectName(QString::fromLatin1(look.Name));
     // Keys take the focus from Tab only (a click leaves it where typing goes on working).
     button->setFocusPolicy(Qt::TabFocus);
@@ -290,19 +342,17 @@ void TQORCalcFormBase::ApplyKeyTexts(const KeyText& key) const
 {
     QToolButton* button = key.Button;
     if (key.Look.Caption != nullptr)
-        button->setText(ToQString(key.Look.Caption()));
+        button->setText(LibraryText(key.Look.Caption));
     if (key.Look.Hint != nullptr) {
-        const QString hint = ToQString(key.Look.Hint());
+        const QString hint = LibraryText(key.Look.Hint);
         if (button->toolTip() != hint)
             button->setToolTip(hint);
     }
-    const std::string_view name = key.Look.Name;
-    const QString accessibleName = ToQString(KeyAccessibleName(name, ProgrammersKeys()));
-    if (button->accessibleName() != accessibleName)
-        button->setAccessibleName(accessibleName);
-    const QString description = ToQString(KeyAccessibleDescription(name, ProgrammersKeys()));
-    if (button->accessibleDescription() != description)
-        button->setAccessibleDescription(description);
+    const TKeyAccessTexts& texts = KeyAccessTexts(key.Look.Name, ProgrammersKeys());
+    if (button->accessibleName() != texts.Name)
+        button->setAccessibleName(texts.Name);
+    if (button->accessibleDescription() != texts.Description)
+        button->setAccessibleDescription(texts.Description);
 }
 
 void TQORCalcFormBase::UpdateLanguage()
@@ -521,7 +571,8 @@ void TQORCalcFormBase::InstallKeyPreview()
 {
     installEventFilter(this);
     for (auto* child : findChildren<QWidget*>())
-        child->installEventFilter(this);
+        if (dynamic_cast<TKeyButton*>(child) == nullptr) // keys preview their own events
+            child->installEventFilter(this);
 }
 
 bool TQORCalcFormBase::OtherChar(char) { return false; }

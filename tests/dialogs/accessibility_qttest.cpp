@@ -201,5 +201,26 @@ TEST_F(AccessibleNameTest, NamesSayWhatTheKeyDoes)
     LoadTranslation(QLocale::c());
 }
 
+// Key texts are converted once while the built-in texts are in use; a form made while a
+// translation is installed, and one made after it is gone, still show the texts of their time.
+TEST_F(AccessibleNameTest, EachNewFormShowsTheTextsOfItsTime)
+{
+    const auto texts = [](const TQORSciCalcForm& form) {
+        return QStringList {form.SinBtn->text(), form.SinBtn->toolTip(),
+                            form.SinBtn->accessibleName(),
+                            form.SinBtn->accessibleDescription()};
+    };
+    const QStringList english = texts(TQORSciCalcForm());
+    ASSERT_EQ(english[2], QStringLiteral("sine"));
+    SetTranslationHook([](std::string_view, std::string_view source) {
+        return "<" + std::string(source) + ">";
+    });
+    const QStringList marked = texts(TQORSciCalcForm());
+    SetTranslationHook({});
+    for (qsizetype i = 0; i < english.size(); ++i)
+        EXPECT_EQ(marked[i], QLatin1Char('<') + english[i] + QLatin1Char('>')) << i;
+    EXPECT_EQ(texts(TQORSciCalcForm()), english);
+}
+
 } // namespace
 } // namespace qorkit
