@@ -25,8 +25,6 @@ using namespace engine_internal;
 constexpr Extended PercentFactor = 0.01L;
 constexpr Extended StandardGravity = 9.80665L;
 
-std::string Text(const char* s) { return s; }
-
 // A binary operator: its code, tape text, result (x lower, y upper operand) and whether a
 // zero upper operand is a division by zero.
 struct BinaryOperator {
@@ -37,10 +35,12 @@ struct BinaryOperator {
 };
 
 constexpr BinaryOperator BinaryOperators[] = {
-    {ocAdd, [] { return Text("+"); }, [](Extended x, Extended y) { return x + y; }, false},
-    {ocSubtract, [] { return Text("-"); }, [](Extended x, Extended y) { return x - y; }, false},
-    {ocMultiply, [] { return Text("*"); }, [](Extended x, Extended y) { return x * y; }, false},
-    {ocDivide, [] { return Text("/"); }, [](Extended x, Extended y) { return x / y; }, true},
+    {ocAdd, [] { return std::string("+"); }, [](Extended x, Extended y) { return x + y; }, false},
+    {ocSubtract, [] { return std::string("-"); }, [](Extended x, Extended y) { return x - y; },
+     false},
+    {ocMultiply, [] { return std::string("*"); }, [](Extended x, Extended y) { return x * y; },
+     false},
+    {ocDivide, [] { return std::string("/"); }, [](Extended x, Extended y) { return x / y; }, true},
     {ocPower, rsXpwrYPaper, XtoY, false},
     // The y-th root; a zero index is the reciprocal of zero.
     {ocRoot, rsXpwrInvYPaper, [](Extended x, Extended y) { return XtoY(x, 1.0L / y); }, true},
@@ -48,11 +48,9 @@ constexpr BinaryOperator BinaryOperators[] = {
     {ocRemainder, rsFPRemPaper, QORRem, true},
     {ocDiv, rsFPDivPaper, QORDiv, true},
     {ocIntDiv, rsFPIntDivPaper, QORIntDiv, true},
-    {ocPercent, [] { return Text("%"); },
+    {ocPercent, [] { return std::string("%"); },
      [](Extended x, Extended y) { return x * y * PercentFactor; }, false},
 };
-
-bool IsFunctionCode(char c) { return kFunctionCodeSet.Contains(c); }
 
 // The text of a typed number with its exponent negated: "1E5" -> "1E-5", "1E-05" -> "1E5";
 // a zero or missing exponent gives "1E-".
@@ -354,22 +352,14 @@ void TQORCalcEngine::ClearToggles()
 
 // ---- Stacks --------------------------------------------------------------------------------
 
-void TQORCalcEngine::Push(Extended value)
-{
-    value = CheckFloat(value);
-    operands_.Push(value);
-}
-
-void TQORCalcEngine::PushOperator(char op) { operators_.Push(op); }
+void TQORCalcEngine::Push(Extended value) { operands_.Push(CheckFloat(value)); }
 
 void TQORCalcEngine::PushOperandStack(Extended Value)
 {
     Guarded([&] { Push(Value); });
 }
 
-void TQORCalcEngine::PushOperatorStack(char Op) { PushOperator(Op); }
-
-Extended TQORCalcEngine::PopOperand() { return operands_.Pop(); }
+void TQORCalcEngine::PushOperatorStack(char Op) { operators_.Push(Op); }
 
 void TQORCalcEngine::EmptyStacks()
 {
@@ -403,7 +393,7 @@ bool TQORCalcEngine::HigherPrecedence(char NewOp, char TopOp) const
 
 bool TQORCalcEngine::IsUnary(char code) const
 {
-    return IsFunctionCode(code) || (code == ocPercent && !binaryPercent_);
+    return kFunctionCodeSet.Contains(code) || (code == ocPercent && !binaryPercent_);
 }
 
 void TQORCalcEngine::Arithmetic(char Op)
@@ -422,7 +412,7 @@ void TQORCalcEngine::Arithmetic(char Op)
         UpdateValue();
         while (!operators_.Empty() && !HigherPrecedence(Op, operators_.Top()))
             Reduce();
-        PushOperator(Op);
+        PushOperatorStack(Op);
         ShowTop();
         const auto* op = FindCode(BinaryOperators, Op);
         AddToHistory(op ? op->TapeText() : std::string(1, Op), true);
@@ -459,14 +449,14 @@ void TQORCalcEngine::Reduce()
     if (const auto* op = FindCode(BinaryOperators, code)) {
         if (operands_.Count() < 2)
             throw EMathError(rsInvalidEquation());
-        const Extended y = PopOperand();
+        const Extended y = operands_.Pop();
         const Extended x = operands_.Top();
         if (op->ZeroDivisor && y == 0)
             throw EZeroDivide(rsDivideByZero());
         operands_.Top() = CheckFloat(op->Apply(x, y));
         return;
     }
-    if (IsFunctionCode(code))
+    if (kFunctionCodeSet.Contains(code))
         ApplyFunction(code);
     // '(' and unknown codes are simply dropped.
 }
@@ -481,12 +471,6 @@ void TQORCalcEngine::UnaryPercentReduce()
     top = operands_.Count() >= 2 ? CheckFloat(top * operands_.Below(1) * PercentFactor) : 0;
 }
 
-void TQORCalcEngine::ReduceUntil(bool (*stop)(char top))
-{
-    while (!operators_.Empty() && !stop(operators_.Top()))
-        Reduce();
-}
-
 void TQORCalcEngine::InputLeftBracket()
 {
     Guarded([&] {
@@ -496,7 +480,7 @@ void TQORCalcEngine::InputLeftBracket()
             DoMultiply();
         }
         entryStr_.clear();
-        PushOperator(ocLeftBracket);
+        PushOperatorStack(ocLeftBracket);
         ShowTop();
         AddToHistory("(", true);
         lastOperator_ = ocLeftBracket;
@@ -507,7 +491,8 @@ void TQORCalcEngine::InputRightBracket()
 {
     Guarded([&] {
         UpdateValue();
-        ReduceUntil([](char top) { return top == ocLeftBracket; });
+        while (!operators_.Empty() && operators_.Top() != ocLeftBracket)
+            Reduce();
         if (!operators_.Empty()) // an unmatched ')' is accepted silently
             operators_.Drop();
         ShowTop();
@@ -520,7 +505,8 @@ void TQORCalcEngine::DoResult()
 {
     Guarded([&] {
         UpdateValue();
-        ReduceUntil([](char) { return false; }); // unclosed brackets are dropped
+        while (!operators_.Empty()) // unclosed brackets are dropped
+            Reduce();
         // Left-over operands are discarded on purpose: the last one is the result.
         operands_.KeepTopOnly();
         if (!operands_.Empty())
@@ -551,7 +537,6 @@ void TQORCalcEngine::DoPercent()
             lastOperator_ = ocNone;
             return;
         }
-        const auto operand = [this](std::int32_t below) { return operands_.Below(below); };
         Extended result = 0;
         if (!entryStr_.empty()) {
             const Extended percent = TypedValue();
@@ -562,10 +547,10 @@ void TQORCalcEngine::DoPercent()
                 AddToHistory("%", false);
             }
             if (!operands_.Empty())
-                result = operand(0) * percent * PercentFactor;
+                result = operands_.Top() * percent * PercentFactor;
         } else {
             if (operands_.Count() >= 2)
-                result = operand(0) * operand(1) * PercentFactor;
+                result = operands_.Top() * operands_.Below(1) * PercentFactor;
             AddToHistory("%", false);
         }
         ShowResult(result);
@@ -654,7 +639,7 @@ void TQORCalcEngine::FunctionKeyPressed(std::string_view codes)
         if (prefixFunctions_) {
             // Applied when the argument is complete (next operator, ')' or '=').
             entryStr_.clear();
-            PushOperator(function.Code);
+            PushOperatorStack(function.Code);
             AddToHistory(function.Label(), false);
             ShowTop();
             // The code carries the toggles; left set, they would change the next key too
@@ -869,17 +854,10 @@ void TQORCalcEngine::SetAngleMode(TQORAngleMode Value)
 
 void TQORCalcEngine::ToggleAngleMode()
 {
-    switch (angleMode_) {
-    case amRadians:
+    if (angleMode_ == amRadians)
         angleMode_ = enableGrads_ ? amGradians : amDegrees;
-        break;
-    case amGradians:
-        angleMode_ = amDegrees;
-        break;
-    default:
-        angleMode_ = amRadians;
-        break;
-    }
+    else
+        angleMode_ = angleMode_ == amGradians ? amDegrees : amRadians;
     AddToHistory(GetAngleModeStr(), false);
     Fire(onAngleModeChange_);
 }

@@ -281,13 +281,10 @@ private:
     Extended TypedValue() const; // Str2Float of the entry; raises on malformed text
     std::string ShownValue(Extended Value) const; // DisplayValue, or nothing when quiet
     void Push(Extended value);
-    void PushOperator(char op);
-    Extended PopOperand();
     void EmptyStacks();
     void ShowTop();
     void ShowResult(Extended value);
     void Reduce();
-    void ReduceUntil(bool (*stop)(char top));
     // A function key: `codes` holds its codes for the toggles none, Inv, Hyp, Inv+Hyp.
     void FunctionKeyPressed(std::string_view codes);
     void Report(std::string_view codes);
