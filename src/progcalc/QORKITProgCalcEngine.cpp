@@ -195,8 +195,12 @@ constexpr auto kDigitValues = [] {
 // Bits per digit of a base other than decimal.
 int RadixBits(TQORBaseDisplay base) { return base == bdBinary ? 1 : base == bdOctal ? 3 : 4; }
 
-// Digits of `radixBits` bits each that hold `bits` bits.
-int DigitsFor(int bits, int radixBits) { return (bits + radixBits - 1) / radixBits; }
+// Digits of `radixBits` bits each (1, 3 or 4) that hold `bits` bits; no division on the key
+// path but the one by the constant 3.
+int DigitsFor(int bits, int radixBits)
+{
+    return radixBits == 3 ? (bits + 2) / 3 : (bits + radixBits - 1) >> (radixBits / 2);
+}
 
 // The hexadecimal digits of a pattern without leading zeros, at least one.
 int SignificantHexDigits(std::uint64_t bits)
