@@ -119,14 +119,8 @@ void TQORCalcEngine::HandleError(const std::string& message)
     SetDisplayValue(rsErrorMsg());
     lastError_ = message;
     AddToHistory(rsPaperErrLine(), false);
-    Fire(onError_);
+    Fire(onError_, this);
     lastOperator_ = ocNone;
-}
-
-void TQORCalcEngine::Fire(const TNotifyEvent& event)
-{
-    if (event)
-        event(this);
 }
 
 // ---- Entry and display ---------------------------------------------------------------------
@@ -154,7 +148,7 @@ void TQORCalcEngine::SetDisplayValue(const std::string& S)
 {
     // Quiet: the text is kept as given (the error message must still be recognisable).
     displayStr_ = thousandsSeparators_ && !quiet_ ? AddThousandsSeparators(S, lakhFormatting_) : S;
-    Fire(onDisplayChange_);
+    Fire(onDisplayChange_, this);
 }
 
 std::string TQORCalcEngine::ShownValue(Extended Value) const
@@ -338,7 +332,7 @@ void TQORCalcEngine::SetDecimalPlaces(std::uint8_t Value)
         return;
     decimalPlaces_ = Value;
     SetDisplayValue(ShownValue(GetDisplayValue()));
-    Fire(onDecimalPlacesChange_);
+    Fire(onDecimalPlacesChange_, this);
 }
 
 void TQORCalcEngine::ClearToggles()
@@ -347,7 +341,7 @@ void TQORCalcEngine::ClearToggles()
         return;
     isInv_ = false;
     isHyp_ = false;
-    Fire(onClearToggles_);
+    Fire(onClearToggles_, this);
 }
 
 // ---- Stacks --------------------------------------------------------------------------------
@@ -443,7 +437,12 @@ void TQORCalcEngine::Reduce()
 {
     const char code = operators_.Pop();
     if (code == ocPercent && !binaryPercent_) {
-        UnaryPercentReduce();
+        // Percent while it is unary: the top operand becomes that percentage of the operand
+        // beneath it.
+        if (operands_.Empty())
+            throw EMathError(rsInvalidEquation());
+        auto& top = operands_.Top();
+        top = operands_.Count() >= 2 ? CheckFloat(top * operands_.Below(1) * PercentFactor) : 0;
         return;
     }
     if (const auto* op = FindCode(BinaryOperators, code)) {
@@ -459,16 +458,6 @@ void TQORCalcEngine::Reduce()
     if (kFunctionCodeSet.Contains(code))
         ApplyFunction(code);
     // '(' and unknown codes are simply dropped.
-}
-
-// A percent code on the stack while percent is unary: the top operand becomes that percentage
-// of the operand beneath it.
-void TQORCalcEngine::UnaryPercentReduce()
-{
-    if (operands_.Empty())
-        throw EMathError(rsInvalidEquation());
-    auto& top = operands_.Top();
-    top = operands_.Count() >= 2 ? CheckFloat(top * operands_.Below(1) * PercentFactor) : 0;
 }
 
 void TQORCalcEngine::InputLeftBracket()
@@ -533,27 +522,25 @@ void TQORCalcEngine::DoPercent()
     Guarded([&] {
         if (binaryPercent_) {
             Arithmetic(ocPercent);
-            ClearToggles();
-            lastOperator_ = ocNone;
-            return;
-        }
-        Extended result = 0;
-        if (!entryStr_.empty()) {
-            const Extended percent = TypedValue();
-            if (operatorSameLine_) {
-                AddToHistory(entryStr_ + "%", false);
+        } else {
+            Extended result = 0;
+            if (!entryStr_.empty()) {
+                const Extended percent = TypedValue();
+                if (operatorSameLine_) {
+                    AddToHistory(entryStr_ + "%", false);
+                } else {
+                    AddToHistory(entryStr_, false);
+                    AddToHistory("%", false);
+                }
+                if (!operands_.Empty())
+                    result = operands_.Top() * percent * PercentFactor;
             } else {
-                AddToHistory(entryStr_, false);
+                if (operands_.Count() >= 2)
+                    result = operands_.Top() * operands_.Below(1) * PercentFactor;
                 AddToHistory("%", false);
             }
-            if (!operands_.Empty())
-                result = operands_.Top() * percent * PercentFactor;
-        } else {
-            if (operands_.Count() >= 2)
-                result = operands_.Top() * operands_.Below(1) * PercentFactor;
-            AddToHistory("%", false);
+            ShowResult(result);
         }
-        ShowResult(result);
         ClearToggles();
         lastOperator_ = ocNone;
     });
@@ -835,13 +822,13 @@ void TQORCalcEngine::InputRandom()
 void TQORCalcEngine::DoInv()
 {
     isInv_ = !isInv_;
-    Fire(isInv_ ? onSetToggles_ : onClearToggles_);
+    Fire(isInv_ ? onSetToggles_ : onClearToggles_, this);
 }
 
 void TQORCalcEngine::DoHyp()
 {
     isHyp_ = !isHyp_;
-    Fire(isHyp_ ? onSetToggles_ : onClearToggles_);
+    Fire(isHyp_ ? onSetToggles_ : onClearToggles_, this);
 }
 
 void TQORCalcEngine::SetAngleMode(TQORAngleMode Value)
@@ -849,7 +836,7 @@ void TQORCalcEngine::SetAngleMode(TQORAngleMode Value)
     if (Value == angleMode_)
         return;
     angleMode_ = Value;
-    Fire(onAngleModeChange_);
+    Fire(onAngleModeChange_, this);
 }
 
 void TQORCalcEngine::ToggleAngleMode()
@@ -859,7 +846,7 @@ void TQORCalcEngine::ToggleAngleMode()
     else
         angleMode_ = angleMode_ == amGradians ? amDegrees : amRadians;
     AddToHistory(GetAngleModeStr(), false);
-    Fire(onAngleModeChange_);
+    Fire(onAngleModeChange_, this);
 }
 
 std::string TQORCalcEngine::GetAngleModeStr() const { return UnitOf(angleMode_).Name(); }
@@ -887,7 +874,7 @@ void TQORCalcEngine::MemoryStep(int sign, const std::string& label)
         ClearToggles();
         AddToHistory(label, false);
         MemoryLine();
-        Fire(onMemoryChange_);
+        Fire(onMemoryChange_, this);
     });
 }
 
@@ -900,7 +887,7 @@ void TQORCalcEngine::MemoryClear()
     ClearToggles();
     AddToHistory(rsMemClrPaper(), false);
     MemoryLine();
-    Fire(onMemoryChange_);
+    Fire(onMemoryChange_, this);
 }
 
 void TQORCalcEngine::MemoryRecall()
@@ -918,7 +905,7 @@ void TQORCalcEngine::SetMemory(Extended Value)
 {
     Guarded([&] {
         memory_ = CheckFloat(Value);
-        Fire(onMemoryChange_);
+        Fire(onMemoryChange_, this);
     });
 }
 
@@ -938,7 +925,7 @@ void TQORCalcEngine::AddToHistory(const std::string& S, bool SameLine)
         tape_.Add(pendingOperatorText_ + " " + S);
         pendingOperatorText_.clear();
     }
-    Fire(onHistoryChange_);
+    Fire(onHistoryChange_, this);
 }
 
 void TQORCalcEngine::AddToHistory(Extended Value) { AddToHistory(ShownValue(Value), false); }

@@ -275,7 +275,6 @@ public:
 
 private:
     template<class Body> void Guarded(Body&& body);
-    void Fire(const TNotifyEvent& event);
     void HandleError(const std::string& message);
 
     Extended TypedValue() const; // Str2Float of the entry; raises on malformed text
@@ -293,7 +292,6 @@ private:
     bool IsUnary(char code) const;
     Extended PostfixArgument();
     Extended Finish(Extended result); // clears the toggles, checks the result
-    void UnaryPercentReduce();
     void MemoryStep(int sign, const std::string& label);
     void MemoryLine();
 

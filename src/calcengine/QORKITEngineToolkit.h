@@ -95,6 +95,13 @@ template<class Row, std::size_t N> const Row* FindCode(const Row (&table)[N], ch
     return nullptr;
 }
 
+// Calls an engine's event handler when one is assigned.
+template<class Handler, class Sender> void Fire(const Handler& handler, Sender* sender)
+{
+    if (handler)
+        handler(sender);
+}
+
 // The one error path of an engine operation. Only the outermost guarded call catches: a fault
 // anywhere inside abandons the rest of the operation and is handed to onError with its
 // message. Out of memory is never swallowed; it always propagates to the caller.

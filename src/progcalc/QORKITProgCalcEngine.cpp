@@ -416,7 +416,7 @@ void TQORProgCalcEngine::ShowCurrentText()
         displayIsEntry_ = false;
         displayPlain_ = GroupWidth() == 0 ? kPlain : kPlainUnknown;
     }
-    Notify(onDisplayChange_);
+    Fire(onDisplayChange_, this);
 }
 
 void TQORProgCalcEngine::SetDisplayValue0()
@@ -424,7 +424,7 @@ void TQORProgCalcEngine::SetDisplayValue0()
     FormatValue(display_, 0, baseDisplay_, bitSize_, spacing_, maxDisplayLength_);
     displayIsEntry_ = false;
     displayPlain_ = GroupWidth() == 0 ? kPlain : kPlainUnknown;
-    Notify(onDisplayChange_);
+    Fire(onDisplayChange_, this);
 }
 
 void TQORProgCalcEngine::SetDisplayValue(const std::string& s)
@@ -432,14 +432,14 @@ void TQORProgCalcEngine::SetDisplayValue(const std::string& s)
     display_ = s;
     displayIsEntry_ = false;
     displayPlain_ = kPlainUnknown;
-    Notify(onDisplayChange_);
+    Fire(onDisplayChange_, this);
 }
 
 void TQORProgCalcEngine::ShowEntry()
 {
     displayIsEntry_ = true; // no copy: the entry is shown until it next changes
     displayPlain_ = entryPlain_ ? kPlain : kNotPlain;
-    Notify(onDisplayChange_);
+    Fire(onDisplayChange_, this);
 }
 
 void TQORProgCalcEngine::KnowEntryBits(std::uint64_t bits, bool negative) noexcept
@@ -890,13 +890,7 @@ void TQORProgCalcEngine::HandleError(const std::string& message)
     SetDisplayValue(rsErrorMsg());
     lastError_ = message;
     AddToHistory(rsPaperErrLine());
-    Notify(onError_);
-}
-
-void TQORProgCalcEngine::Notify(const TQORProgCalcNotifyEvent& handler)
-{
-    if (handler)
-        handler(this);
+    Fire(onError_, this);
 }
 
 // ---- One-operand keys ----------------------------------------------------------------------
@@ -1001,17 +995,17 @@ void TQORProgCalcEngine::SetBaseDisplay(TQORBaseDisplay value)
         ChangeValues(baseDisplay_, value);
     }
     baseDisplay_ = value;
-    Notify(onBaseDisplayChange_);
+    Fire(onBaseDisplayChange_, this);
     UpdateValues();
     if (value == bdDecimal) {
         // Decimal always works at 64 bits with signed values.
         bitSize_ = bs64Bits;
-        Notify(onBitSizeChange_);
+        Fire(onBitSizeChange_, this);
     }
     if (!pending)
         ShowCurrentText();
     AddToHistory(TextOf(kBaseNames, value));
-    Notify(onMemoryChange_);
+    Fire(onMemoryChange_, this);
 }
 
 void TQORProgCalcEngine::SetBaseDisplay2(TQORBaseDisplay value)
@@ -1058,7 +1052,7 @@ void TQORProgCalcEngine::SetBitSize(TQORBitSize value)
     if (value == bitSize_)
         return;
     bitSize_ = value;
-    Notify(onBitSizeChange_);
+    Fire(onBitSizeChange_, this);
     switch (sizeChange_) {
     case pscClear:
         AllClear();
@@ -1071,7 +1065,7 @@ void TQORProgCalcEngine::SetBitSize(TQORBitSize value)
     }
     AddToHistory(TextOf(kBitSizeTexts, value));
     ShowCurrentText();
-    Notify(onMemoryChange_);
+    Fire(onMemoryChange_, this);
     // Completes any half-entered expression at the new width.
     DoResult();
 }
@@ -1091,13 +1085,13 @@ void TQORProgCalcEngine::SetSpacing(TQORProgSpacing value)
     if (value == spacing_)
         return;
     spacing_ = value;
-    Notify(onSpacingChange_);
+    Fire(onSpacingChange_, this);
     if (baseDisplay_ == bdDecimal)
         SetDisplayValue(DisplayValue(value_));
     else // any other base works as hexadecimal
         SetDisplayValue(
             DisplayValueIn(RadixBits(baseDisplay_) == 4 ? bdHexadecimal : baseDisplay_));
-    Notify(onMemoryChange_);
+    Fire(onMemoryChange_, this);
     DoResult();
 }
 
@@ -1132,7 +1126,7 @@ void TQORProgCalcEngine::MemoryChange(bool add)
     }
     AddToHistory(add ? rsMemAddPaper() : rsMemSubPaper());
     MemoryHistoryLine();
-    Notify(onMemoryChange_);
+    Fire(onMemoryChange_, this);
 }
 
 void TQORProgCalcEngine::MemoryAdd() { MemoryChange(true); }
@@ -1143,7 +1137,7 @@ void TQORProgCalcEngine::MemoryClear()
     memory_ = 0;
     AddToHistory(rsMemClrPaper());
     MemoryHistoryLine();
-    Notify(onMemoryChange_);
+    Fire(onMemoryChange_, this);
 }
 
 void TQORProgCalcEngine::MemoryRecall()
@@ -1158,7 +1152,7 @@ void TQORProgCalcEngine::MemoryRecall()
 void TQORProgCalcEngine::SetMemory(std::int64_t v)
 {
     memory_ = v;
-    Notify(onMemoryChange_);
+    Fire(onMemoryChange_, this);
 }
 
 // ---- History -------------------------------------------------------------------------------
@@ -1177,7 +1171,7 @@ void TQORProgCalcEngine::AddToHistory(const std::string& s)
     TTapeLine& line = tape_.Add();
     line.Text = s;
     line.Pending = false;
-    Notify(onHistoryChange_);
+    Fire(onHistoryChange_, this);
 }
 
 // The line keeps the value and today's modes; its text is written when it is first read.
@@ -1190,7 +1184,7 @@ void TQORProgCalcEngine::AddToHistory(std::int64_t v)
     line.Spacing = spacing_;
     line.MaxLength = maxDisplayLength_;
     line.Pending = true;
-    Notify(onHistoryChange_);
+    Fire(onHistoryChange_, this);
 }
 
 void TQORProgCalcEngine::PaperLine() { AddToHistory(rsPaperLine()); }

@@ -305,7 +305,6 @@ private:
     void ShowTopOperand();
     template<class Body> void Guarded(Body&& body); // the one error path of an operation
     void HandleError(const std::string& message);
-    void Notify(const TQORProgCalcNotifyEvent& handler);
     int GroupWidth() const; // of the current base and spacing
     const std::string* BaseText() const;
     void ShowCurrentText(); // SetDisplayValue(CurrentText()) without a temporary text
