@@ -265,15 +265,15 @@ void GroupInPlace(std::string& s, int width)
     if (width <= 0 || n <= 1)
         return;
     const auto w = static_cast<std::size_t>(width);
-    std::size_t src = n;
-    std::size_t dst = n + (n - 1) / w;
-    s.resize(dst);
-    for (std::size_t left = w; src > 0;) { // left: characters until the next blank
-        s[--dst] = s[--src];
-        if (--left == 0 && src > 0) {
-            s[--dst] = ' ';
-            left = w;
-        }
+    const std::size_t blanks = (n - 1) / w;
+    s.resize(n + blanks);
+    // Whole groups move right, from the last: each by the number of blanks to its left.
+    char* p = s.data();
+    for (std::size_t group = 0; group < blanks; ++group) {
+        const std::size_t from = n - (group + 1) * w;
+        const std::size_t to = from + blanks - group;
+        std::memmove(p + to, p + from, w);
+        p[to - 1] = ' ';
     }
 }
 
