@@ -105,8 +105,7 @@ TQORCalcEngine::TQORCalcEngine()
     RandomSeed(static_cast<std::uint64_t>(TodayNumber()));
 }
 
-// Runs one operation. Only the outermost guarded operation catches: a fault anywhere inside
-// abandons the rest of the operation and leaves the engine cleared with "Error!" showing.
+// Runs one operation; see TQORErrorGuard. A fault leaves the engine cleared with "Error!".
 template<class Body> void TQORCalcEngine::Guarded(Body&& body)
 {
     guard_.Run(std::forward<Body>(body),

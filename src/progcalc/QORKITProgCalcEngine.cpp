@@ -114,26 +114,19 @@ std::int64_t Compute(const TBinaryOperator& op, std::int64_t b, std::int64_t a, 
     return static_cast<std::int32_t>(op.Apply(static_cast<U64>(b32), static_cast<U64>(a32)));
 }
 
-// Shifts and rotates of the word-size value a (already sign-extended); count is 1..64.
-std::int64_t ShiftLeft(std::int64_t a, int bits, int count)
+// Shifts of the word-size value a (already sign-extended); count is 1..64. Small sizes shift
+// the 32-bit sign-extended value and keep its 32-bit sign: shifted right, copies of the sign
+// enter the visible bits at 8 and 16 bits, zeros at 32 bits. Intended; kept.
+template<bool Left> std::int64_t Shift(std::int64_t a, int bits, int count)
 {
     if (count >= bits)
         return 0;
-    if (bits == 64)
-        return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) << count);
-    // Small sizes shift the 32-bit sign-extended value and keep its 32-bit sign.
-    return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) << count);
-}
-
-std::int64_t ShiftRight(std::int64_t a, int bits, int count)
-{
-    if (count >= bits)
-        return 0;
-    if (bits == 64)
-        return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) >> count);
-    // A logical shift of the 32-bit sign-extended value: at 8 and 16 bits copies of the sign
-    // enter the visible bits, at 32 bits zeros do. Intended; kept.
-    return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) >> count);
+    if (bits == 64) {
+        const auto u = static_cast<std::uint64_t>(a);
+        return static_cast<std::int64_t>(Left ? u << count : u >> count);
+    }
+    const auto u = static_cast<std::uint32_t>(a);
+    return static_cast<std::int32_t>(Left ? u << count : u >> count);
 }
 
 // Rotation of the word-size part of a by the base routine of that width, sign-extended.
@@ -958,8 +951,8 @@ void TQORProgCalcEngine::ShiftKey(std::int64_t (*compute)(std::int64_t, int bits
         word + " " + std::to_string(n));
 }
 
-void TQORProgCalcEngine::DoShl(std::int32_t count) { ShiftKey(ShiftLeft, rsSHLPaper(), count); }
-void TQORProgCalcEngine::DoShr(std::int32_t count) { ShiftKey(ShiftRight, rsSHRPaper(), count); }
+void TQORProgCalcEngine::DoShl(std::int32_t count) { ShiftKey(Shift<true>, rsSHLPaper(), count); }
+void TQORProgCalcEngine::DoShr(std::int32_t count) { ShiftKey(Shift<false>, rsSHRPaper(), count); }
 void TQORProgCalcEngine::DoRol(std::int32_t count)
 {
     ShiftKey(Rotate<ROL8, ROL16, ROL32, ROL64>, rsROLPaper(), count);
