@@ -307,7 +307,7 @@ private:
     void HandleError(const std::string& message);
     int GroupWidth() const; // of the current base and spacing
     const std::string* BaseText() const;
-    void ShowCurrentText(); // SetDisplayValue(CurrentText()) without a temporary text
+    void ShowCurrentText(); // the value in the current base as the display
     const std::string& DisplayValueIn(TQORBaseDisplay textBase);
     void EntryChanged() noexcept; // after any edit of the entry but a digit's
     // The entry's bits, sign and blank-free state, for an entry just set to digits.
