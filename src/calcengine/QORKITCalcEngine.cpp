@@ -25,8 +25,6 @@ using namespace engine_internal;
 constexpr Extended PercentFactor = 0.01L;
 constexpr Extended StandardGravity = 9.80665L;
 
-std::string Text(const char* s) { return s; }
-
 // A binary operator: its code, tape text, result (x lower, y upper operand) and whether a
 // zero upper operand is a division by zero.
 struct BinaryOperator {
@@ -37,10 +35,12 @@ struct BinaryOperator {
 };
 
 constexpr BinaryOperator BinaryOperators[] = {
-    {ocAdd, [] { return Text("+"); }, [](Extended x, Extended y) { return x + y; }, false},
-    {ocSubtract, [] { return Text("-"); }, [](Extended x, Extended y) { return x - y; }, false},
-    {ocMultiply, [] { return Text("*"); }, [](Extended x, Extended y) { return x * y; }, false},
-    {ocDivide, [] { return Text("/"); }, [](Extended x, Extended y) { return x / y; }, true},
+    {ocAdd, [] { return std::string("+"); }, [](Extended x, Extended y) { return x + y; }, false},
+    {ocSubtract, [] { return std::string("-"); }, [](Extended x, Extended y) { return x - y; },
+     false},
+    {ocMultiply, [] { return std::string("*"); }, [](Extended x, Extended y) { return x * y; },
+     false},
+    {ocDivide, [] { return std::string("/"); }, [](Extended x, Extended y) { return x / y; }, true},
     {ocPower, rsXpwrYPaper, XtoY, false},
     // The y-th root; a zero index is the reciprocal of zero.
     {ocRoot, rsXpwrInvYPaper, [](Extended x, Extended y) { return XtoY(x, 1.0L / y); }, true},
@@ -48,11 +48,9 @@ constexpr BinaryOperator BinaryOperators[] = {
     {ocRemainder, rsFPRemPaper, QORRem, true},
     {ocDiv, rsFPDivPaper, QORDiv, true},
     {ocIntDiv, rsFPIntDivPaper, QORIntDiv, true},
-    {ocPercent, [] { return Text("%"); },
+    {ocPercent, [] { return std::string("%"); },
      [](Extended x, Extended y) { return x * y * PercentFactor; }, false},
 };
-
-bool IsFunctionCode(char c) { return kFunctionCodeSet.Contains(c); }
 
 // The text of a typed number with its exponent negated: "1E5" -> "1E-5", "1E-05" -> "1E5";
 // a zero or missing exponent gives "1E-".
@@ -107,8 +105,7 @@ TQORCalcEngine::TQORCalcEngine()
     RandomSeed(static_cast<std::uint64_t>(TodayNumber()));
 }
 
-// Runs one operation. Only the outermost guarded operation catches: a fault anywhere inside
-// abandons the rest of the operation and leaves the engine cleared with "Error!" showing.
+// Runs one operation; see TQORErrorGuard. A fault leaves the engine cleared with "Error!".
 template<class Body> void TQORCalcEngine::Guarded(Body&& body)
 {
     guard_.Run(std::forward<Body>(body),
@@ -121,14 +118,8 @@ void TQORCalcEngine::HandleError(const std::string& message)
     SetDisplayValue(rsErrorMsg());
     lastError_ = message;
     AddToHistory(rsPaperErrLine(), false);
-    Fire(onError_);
+    Fire(onError_, this);
     lastOperator_ = ocNone;
-}
-
-void TQORCalcEngine::Fire(const TNotifyEvent& event)
-{
-    if (event)
-        event(this);
 }
 
 // ---- Entry and display ---------------------------------------------------------------------
@@ -156,7 +147,7 @@ void TQORCalcEngine::SetDisplayValue(const std::string& S)
 {
     // Quiet: the text is kept as given (the error message must still be recognisable).
     displayStr_ = thousandsSeparators_ && !quiet_ ? AddThousandsSeparators(S, lakhFormatting_) : S;
-    Fire(onDisplayChange_);
+    Fire(onDisplayChange_, this);
 }
 
 std::string TQORCalcEngine::ShownValue(Extended Value) const
@@ -340,7 +331,7 @@ void TQORCalcEngine::SetDecimalPlaces(std::uint8_t Value)
         return;
     decimalPlaces_ = Value;
     SetDisplayValue(ShownValue(GetDisplayValue()));
-    Fire(onDecimalPlacesChange_);
+    Fire(onDecimalPlacesChange_, this);
 }
 
 void TQORCalcEngine::ClearToggles()
@@ -349,27 +340,19 @@ void TQORCalcEngine::ClearToggles()
         return;
     isInv_ = false;
     isHyp_ = false;
-    Fire(onClearToggles_);
+    Fire(onClearToggles_, this);
 }
 
 // ---- Stacks --------------------------------------------------------------------------------
 
-void TQORCalcEngine::Push(Extended value)
-{
-    value = CheckFloat(value);
-    operands_.Push(value);
-}
-
-void TQORCalcEngine::PushOperator(char op) { operators_.Push(op); }
+void TQORCalcEngine::Push(Extended value) { operands_.Push(CheckFloat(value)); }
 
 void TQORCalcEngine::PushOperandStack(Extended Value)
 {
     Guarded([&] { Push(Value); });
 }
 
-void TQORCalcEngine::PushOperatorStack(char Op) { PushOperator(Op); }
-
-Extended TQORCalcEngine::PopOperand() { return operands_.Pop(); }
+void TQORCalcEngine::PushOperatorStack(char Op) { operators_.Push(Op); }
 
 void TQORCalcEngine::EmptyStacks()
 {
@@ -403,7 +386,7 @@ bool TQORCalcEngine::HigherPrecedence(char NewOp, char TopOp) const
 
 bool TQORCalcEngine::IsUnary(char code) const
 {
-    return IsFunctionCode(code) || (code == ocPercent && !binaryPercent_);
+    return kFunctionCodeSet.Contains(code) || (code == ocPercent && !binaryPercent_);
 }
 
 void TQORCalcEngine::Arithmetic(char Op)
@@ -422,7 +405,7 @@ void TQORCalcEngine::Arithmetic(char Op)
         UpdateValue();
         while (!operators_.Empty() && !HigherPrecedence(Op, operators_.Top()))
             Reduce();
-        PushOperator(Op);
+        PushOperatorStack(Op);
         ShowTop();
         const auto* op = FindCode(BinaryOperators, Op);
         AddToHistory(op ? op->TapeText() : std::string(1, Op), true);
@@ -453,38 +436,27 @@ void TQORCalcEngine::Reduce()
 {
     const char code = operators_.Pop();
     if (code == ocPercent && !binaryPercent_) {
-        UnaryPercentReduce();
+        // Percent while it is unary: the top operand becomes that percentage of the operand
+        // beneath it.
+        if (operands_.Empty())
+            throw EMathError(rsInvalidEquation());
+        auto& top = operands_.Top();
+        top = operands_.Count() >= 2 ? CheckFloat(top * operands_.Below(1) * PercentFactor) : 0;
         return;
     }
     if (const auto* op = FindCode(BinaryOperators, code)) {
         if (operands_.Count() < 2)
             throw EMathError(rsInvalidEquation());
-        const Extended y = PopOperand();
+        const Extended y = operands_.Pop();
         const Extended x = operands_.Top();
         if (op->ZeroDivisor && y == 0)
             throw EZeroDivide(rsDivideByZero());
         operands_.Top() = CheckFloat(op->Apply(x, y));
         return;
     }
-    if (IsFunctionCode(code))
+    if (kFunctionCodeSet.Contains(code))
         ApplyFunction(code);
     // '(' and unknown codes are simply dropped.
-}
-
-// A percent code on the stack while percent is unary: the top operand becomes that percentage
-// of the operand beneath it.
-void TQORCalcEngine::UnaryPercentReduce()
-{
-    if (operands_.Empty())
-        throw EMathError(rsInvalidEquation());
-    auto& top = operands_.Top();
-    top = operands_.Count() >= 2 ? CheckFloat(top * operands_.Below(1) * PercentFactor) : 0;
-}
-
-void TQORCalcEngine::ReduceUntil(bool (*stop)(char top))
-{
-    while (!operators_.Empty() && !stop(operators_.Top()))
-        Reduce();
 }
 
 void TQORCalcEngine::InputLeftBracket()
@@ -496,7 +468,7 @@ void TQORCalcEngine::InputLeftBracket()
             DoMultiply();
         }
         entryStr_.clear();
-        PushOperator(ocLeftBracket);
+        PushOperatorStack(ocLeftBracket);
         ShowTop();
         AddToHistory("(", true);
         lastOperator_ = ocLeftBracket;
@@ -507,7 +479,8 @@ void TQORCalcEngine::InputRightBracket()
 {
     Guarded([&] {
         UpdateValue();
-        ReduceUntil([](char top) { return top == ocLeftBracket; });
+        while (!operators_.Empty() && operators_.Top() != ocLeftBracket)
+            Reduce();
         if (!operators_.Empty()) // an unmatched ')' is accepted silently
             operators_.Drop();
         ShowTop();
@@ -520,7 +493,8 @@ void TQORCalcEngine::DoResult()
 {
     Guarded([&] {
         UpdateValue();
-        ReduceUntil([](char) { return false; }); // unclosed brackets are dropped
+        while (!operators_.Empty()) // unclosed brackets are dropped
+            Reduce();
         // Left-over operands are discarded on purpose: the last one is the result.
         operands_.KeepTopOnly();
         if (!operands_.Empty())
@@ -547,28 +521,25 @@ void TQORCalcEngine::DoPercent()
     Guarded([&] {
         if (binaryPercent_) {
             Arithmetic(ocPercent);
-            ClearToggles();
-            lastOperator_ = ocNone;
-            return;
-        }
-        const auto operand = [this](std::int32_t below) { return operands_.Below(below); };
-        Extended result = 0;
-        if (!entryStr_.empty()) {
-            const Extended percent = TypedValue();
-            if (operatorSameLine_) {
-                AddToHistory(entryStr_ + "%", false);
+        } else {
+            Extended result = 0;
+            if (!entryStr_.empty()) {
+                const Extended percent = TypedValue();
+                if (operatorSameLine_) {
+                    AddToHistory(entryStr_ + "%", false);
+                } else {
+                    AddToHistory(entryStr_, false);
+                    AddToHistory("%", false);
+                }
+                if (!operands_.Empty())
+                    result = operands_.Top() * percent * PercentFactor;
             } else {
-                AddToHistory(entryStr_, false);
+                if (operands_.Count() >= 2)
+                    result = operands_.Top() * operands_.Below(1) * PercentFactor;
                 AddToHistory("%", false);
             }
-            if (!operands_.Empty())
-                result = operand(0) * percent * PercentFactor;
-        } else {
-            if (operands_.Count() >= 2)
-                result = operand(0) * operand(1) * PercentFactor;
-            AddToHistory("%", false);
+            ShowResult(result);
         }
-        ShowResult(result);
         ClearToggles();
         lastOperator_ = ocNone;
     });
@@ -654,7 +625,7 @@ void TQORCalcEngine::FunctionKeyPressed(std::string_view codes)
         if (prefixFunctions_) {
             // Applied when the argument is complete (next operator, ')' or '=').
             entryStr_.clear();
-            PushOperator(function.Code);
+            PushOperatorStack(function.Code);
             AddToHistory(function.Label(), false);
             ShowTop();
             // The code carries the toggles; left set, they would change the next key too
@@ -850,13 +821,13 @@ void TQORCalcEngine::InputRandom()
 void TQORCalcEngine::DoInv()
 {
     isInv_ = !isInv_;
-    Fire(isInv_ ? onSetToggles_ : onClearToggles_);
+    Fire(isInv_ ? onSetToggles_ : onClearToggles_, this);
 }
 
 void TQORCalcEngine::DoHyp()
 {
     isHyp_ = !isHyp_;
-    Fire(isHyp_ ? onSetToggles_ : onClearToggles_);
+    Fire(isHyp_ ? onSetToggles_ : onClearToggles_, this);
 }
 
 void TQORCalcEngine::SetAngleMode(TQORAngleMode Value)
@@ -864,24 +835,17 @@ void TQORCalcEngine::SetAngleMode(TQORAngleMode Value)
     if (Value == angleMode_)
         return;
     angleMode_ = Value;
-    Fire(onAngleModeChange_);
+    Fire(onAngleModeChange_, this);
 }
 
 void TQORCalcEngine::ToggleAngleMode()
 {
-    switch (angleMode_) {
-    case amRadians:
+    if (angleMode_ == amRadians)
         angleMode_ = enableGrads_ ? amGradians : amDegrees;
-        break;
-    case amGradians:
-        angleMode_ = amDegrees;
-        break;
-    default:
-        angleMode_ = amRadians;
-        break;
-    }
+    else
+        angleMode_ = angleMode_ == amGradians ? amDegrees : amRadians;
     AddToHistory(GetAngleModeStr(), false);
-    Fire(onAngleModeChange_);
+    Fire(onAngleModeChange_, this);
 }
 
 std::string TQORCalcEngine::GetAngleModeStr() const { return UnitOf(angleMode_).Name(); }
@@ -909,7 +873,7 @@ void TQORCalcEngine::MemoryStep(int sign, const std::string& label)
         ClearToggles();
         AddToHistory(label, false);
         MemoryLine();
-        Fire(onMemoryChange_);
+        Fire(onMemoryChange_, this);
     });
 }
 
@@ -922,7 +886,7 @@ void TQORCalcEngine::MemoryClear()
     ClearToggles();
     AddToHistory(rsMemClrPaper(), false);
     MemoryLine();
-    Fire(onMemoryChange_);
+    Fire(onMemoryChange_, this);
 }
 
 void TQORCalcEngine::MemoryRecall()
@@ -940,7 +904,7 @@ void TQORCalcEngine::SetMemory(Extended Value)
 {
     Guarded([&] {
         memory_ = CheckFloat(Value);
-        Fire(onMemoryChange_);
+        Fire(onMemoryChange_, this);
     });
 }
 
@@ -960,7 +924,7 @@ void TQORCalcEngine::AddToHistory(const std::string& S, bool SameLine)
         tape_.Add(pendingOperatorText_ + " " + S);
         pendingOperatorText_.clear();
     }
-    Fire(onHistoryChange_);
+    Fire(onHistoryChange_, this);
 }
 
 void TQORCalcEngine::AddToHistory(Extended Value) { AddToHistory(ShownValue(Value), false); }

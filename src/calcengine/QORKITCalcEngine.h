@@ -275,19 +275,15 @@ public:
 
 private:
     template<class Body> void Guarded(Body&& body);
-    void Fire(const TNotifyEvent& event);
     void HandleError(const std::string& message);
 
     Extended TypedValue() const; // Str2Float of the entry; raises on malformed text
     std::string ShownValue(Extended Value) const; // DisplayValue, or nothing when quiet
     void Push(Extended value);
-    void PushOperator(char op);
-    Extended PopOperand();
     void EmptyStacks();
     void ShowTop();
     void ShowResult(Extended value);
     void Reduce();
-    void ReduceUntil(bool (*stop)(char top));
     // A function key: `codes` holds its codes for the toggles none, Inv, Hyp, Inv+Hyp.
     void FunctionKeyPressed(std::string_view codes);
     void Report(std::string_view codes);
@@ -296,7 +292,6 @@ private:
     bool IsUnary(char code) const;
     Extended PostfixArgument();
     Extended Finish(Extended result); // clears the toggles, checks the result
-    void UnaryPercentReduce();
     void MemoryStep(int sign, const std::string& label);
     void MemoryLine();
 

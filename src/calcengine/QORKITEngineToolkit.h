@@ -95,6 +95,13 @@ template<class Row, std::size_t N> const Row* FindCode(const Row (&table)[N], ch
     return nullptr;
 }
 
+// Calls an engine's event handler when one is assigned.
+template<class Handler, class Sender> void Fire(const Handler& handler, Sender* sender)
+{
+    if (handler)
+        handler(sender);
+}
+
 // The one error path of an engine operation. Only the outermost guarded call catches: a fault
 // anywhere inside abandons the rest of the operation and is handed to onError with its
 // message. Out of memory is never swallowed; it always propagates to the caller.
@@ -197,13 +204,11 @@ public:
         return &lines_[static_cast<std::size_t>(next)];
     }
     // Line `index`, or nullptr beyond the end.
-    Line* At(std::size_t index) noexcept { return index < count_ ? &lines_[index] : nullptr; }
     const Line* At(std::size_t index) const noexcept
     {
         return index < count_ ? &lines_[index] : nullptr;
     }
-    const Line* Last() const noexcept { return count_ == 0 ? nullptr : &lines_[count_ - 1]; }
-    Line* Last() noexcept { return count_ == 0 ? nullptr : &lines_[count_ - 1]; }
+    const Line* Last() const noexcept { return At(count_ - 1); }
     std::int32_t Length() const noexcept { return static_cast<std::int32_t>(count_); }
     std::int32_t Position() const noexcept { return position_; }
     void SetPosition(std::int32_t value) noexcept { position_ = value; }

@@ -22,15 +22,6 @@ namespace {
 
 using namespace engine_internal;
 
-// Digit counts per word size: hexadecimal, octal, binary.
-struct TDigitCounts {
-    int Hex;
-    int Oct;
-    int Bin;
-};
-constexpr std::array<TDigitCounts, 4> kDigitCounts {
-    {{2, 3, 8}, {4, 6, 16}, {8, 11, 32}, {16, 22, 64}}};
-
 // Characters per group, by base (binary, decimal, hexadecimal, octal) and spacing (none, byte,
 // word, double word). Decimal is never grouped. The octal widths do not fall on byte
 // boundaries; they are the chosen grouping and stay as they are.
@@ -72,32 +63,11 @@ constexpr TBinaryOperator kBinaryOperators[] = {
 // shift or rotate ever sees a width beyond the word.
 TQORBitSize KnownBitSize(TQORBitSize value) { return value <= bs64Bits ? value : bs64Bits; }
 
-// The operand slot of a word size.
-std::int64_t SlotOfSize(TQORBitSize size, std::int8_t b8, std::int16_t b16, std::int32_t b32,
-                        std::int64_t b64)
+// The low bits of v that a word size holds, read as a signed integer of that width.
+std::int64_t SignExtend(std::int64_t v, TQORBitSize size)
 {
-    const std::int64_t slots[] = {b8, b16, b32, b64};
-    return slots[size & 3U];
-}
-
-// Loads the word-size part of v into the slot of that size.
-void LoadSlotOfSize(TQORBitSize size, std::int64_t v, std::int8_t& b8, std::int16_t& b16,
-                    std::int32_t& b32, std::int64_t& b64)
-{
-    switch (size) {
-    case bs8Bits:
-        b8 = static_cast<std::int8_t>(v);
-        break;
-    case bs16Bits:
-        b16 = static_cast<std::int16_t>(v);
-        break;
-    case bs32Bits:
-        b32 = static_cast<std::int32_t>(v);
-        break;
-    default:
-        b64 = v;
-        break;
-    }
+    const int unused = 64 - BitSizeBits(size);
+    return static_cast<std::int64_t>(static_cast<std::uint64_t>(v) << unused) >> unused;
 }
 
 // Texts by ordinal; the last entry also answers for values outside the enumeration.
@@ -144,26 +114,19 @@ std::int64_t Compute(const TBinaryOperator& op, std::int64_t b, std::int64_t a, 
     return static_cast<std::int32_t>(op.Apply(static_cast<U64>(b32), static_cast<U64>(a32)));
 }
 
-// Shifts and rotates of the word-size value a (already sign-extended); count is 1..64.
-std::int64_t ShiftLeft(std::int64_t a, int bits, int count)
+// Shifts of the word-size value a (already sign-extended); count is 1..64. Small sizes shift
+// the 32-bit sign-extended value and keep its 32-bit sign: shifted right, copies of the sign
+// enter the visible bits at 8 and 16 bits, zeros at 32 bits. Intended; kept.
+template<bool Left> std::int64_t Shift(std::int64_t a, int bits, int count)
 {
     if (count >= bits)
         return 0;
-    if (bits == 64)
-        return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) << count);
-    // Small sizes shift the 32-bit sign-extended value and keep its 32-bit sign.
-    return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) << count);
-}
-
-std::int64_t ShiftRight(std::int64_t a, int bits, int count)
-{
-    if (count >= bits)
-        return 0;
-    if (bits == 64)
-        return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) >> count);
-    // A logical shift of the 32-bit sign-extended value: at 8 and 16 bits copies of the sign
-    // enter the visible bits, at 32 bits zeros do. Intended; kept.
-    return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) >> count);
+    if (bits == 64) {
+        const auto u = static_cast<std::uint64_t>(a);
+        return static_cast<std::int64_t>(Left ? u << count : u >> count);
+    }
+    const auto u = static_cast<std::uint32_t>(a);
+    return static_cast<std::int32_t>(Left ? u << count : u >> count);
 }
 
 // Rotation of the word-size part of a by the base routine of that width, sign-extended.
@@ -183,24 +146,26 @@ std::int64_t Rotate(std::int64_t a, int bits, int count)
     }
 }
 
-// Signed decimal text of an entry: blanks ignored, leading signs, digits. Signs alone or
-// empty text are 0; values beyond the int64 range wrap modulo 2^64 like the rest of the
-// engine's arithmetic.
-std::int64_t ParseDecimalEntry(const std::string& text)
+// Signed decimal text of an entry: blanks ignored, leading signs, digits; false at any other
+// character. Signs alone or empty text are 0; values beyond the int64 range wrap modulo 2^64
+// like the rest of the engine's arithmetic.
+bool ReadDecimal(std::string_view s, std::uint64_t& bits, bool& negative)
 {
-    std::string s = RemoveGroupSpacing(text, ' ');
     std::size_t i = 0;
-    bool negative = false;
+    negative = false;
     // Signs typed in front of each other stay when no clean-up rule removes them ("++5").
-    for (; i < s.size() && (s[i] == '+' || s[i] == '-'); ++i)
+    for (; i < s.size() && (s[i] == '+' || s[i] == '-' || s[i] == ' '); ++i)
         negative = negative != (s[i] == '-');
     std::uint64_t magnitude = 0;
     for (; i < s.size(); ++i) {
+        if (s[i] == ' ')
+            continue;
         if (s[i] < '0' || s[i] > '9')
-            throw EConvertError(FormatMessage(rsInvalidInteger(), text));
+            return false;
         magnitude = magnitude * 10U + static_cast<std::uint64_t>(s[i] - '0');
     }
-    return static_cast<std::int64_t>(negative ? 0U - magnitude : magnitude);
+    bits = negative ? 0U - magnitude : magnitude;
+    return true;
 }
 
 // Digit values of the characters of an entry in bases up to 16 (either case); blanks are
@@ -222,6 +187,22 @@ constexpr auto kDigitValues = [] {
 
 // Bits per digit of a base other than decimal.
 int RadixBits(TQORBaseDisplay base) { return base == bdBinary ? 1 : base == bdOctal ? 3 : 4; }
+
+// Digits of `radixBits` bits each (1, 3 or 4) that hold `bits` bits; no division on the key
+// path but the one by the constant 3.
+int DigitsFor(int bits, int radixBits)
+{
+    return radixBits == 3 ? (bits + 2) / 3 : (bits + radixBits - 1) >> (radixBits / 2);
+}
+
+// The hexadecimal digits of a pattern without leading zeros, at least one.
+int SignificantHexDigits(std::uint64_t bits)
+{
+    int digits = 1;
+    while (digits < 16 && (bits >> (4 * digits)) != 0)
+        ++digits;
+    return digits;
+}
 
 // The bits of a word size.
 std::uint64_t SizeMask(TQORBitSize size)
@@ -277,15 +258,15 @@ void GroupInPlace(std::string& s, int width)
     if (width <= 0 || n <= 1)
         return;
     const auto w = static_cast<std::size_t>(width);
-    std::size_t src = n;
-    std::size_t dst = n + (n - 1) / w;
-    s.resize(dst);
-    for (std::size_t left = w; src > 0;) { // left: characters until the next blank
-        s[--dst] = s[--src];
-        if (--left == 0 && src > 0) {
-            s[--dst] = ' ';
-            left = w;
-        }
+    const std::size_t blanks = (n - 1) / w;
+    s.resize(n + blanks);
+    // Whole groups move right, from the last: each by the number of blanks to its left.
+    char* p = s.data();
+    for (std::size_t group = 0; group < blanks; ++group) {
+        const std::size_t from = n - (group + 1) * w;
+        const std::size_t to = from + blanks - group;
+        std::memmove(p + to, p + from, w);
+        p[to - 1] = ' ';
     }
 }
 
@@ -306,28 +287,18 @@ void Regroup(std::string& out, std::string_view text, int width)
 void FormatValue(std::string& out, std::int64_t v, TQORBaseDisplay base, TQORBitSize size,
                  TQORProgSpacing spacing, std::uint8_t maxLength)
 {
-    const TDigitCounts& counts = kDigitCounts[size & 3U];
-    const auto bits = static_cast<std::uint64_t>(v);
-    switch (base) {
-    case bdBinary:
-        WritePattern(out, bits, 1, counts.Bin);
-        break;
-    // Octal digits come from the full 64-bit pattern, so a negative value at a small size
-    // shows the bits above the size that its top digit covers (-1 at 8 bits is "777").
-    // Intended.
-    case bdOctal:
-        WritePattern(out, bits, 3, counts.Oct);
-        break;
-    case bdDecimal: {
+    if (base == bdDecimal) {
         char buffer[24];
         const auto end = std::to_chars(buffer, buffer + sizeof buffer, v).ptr;
         out.assign(buffer,
                    std::min<std::size_t>(static_cast<std::size_t>(end - buffer), maxLength));
-        break;
-    }
-    default:
-        WritePattern(out, bits, 4, counts.Hex);
-        break;
+    } else {
+        // Octal digits come from the full 64-bit pattern, so a negative value at a small size
+        // shows the bits above the size that its top digit covers (-1 at 8 bits is "777").
+        // Intended.
+        const int radixBits = RadixBits(base);
+        WritePattern(out, static_cast<std::uint64_t>(v), radixBits,
+                     DigitsFor(BitSizeBits(size), radixBits));
     }
     GroupInPlace(out, kGroupWidths[base & 3U][spacing & 3U]);
 }
@@ -338,9 +309,13 @@ std::string EntryToHex(const std::string& text, TQORBaseDisplay base)
     std::string hex = RemoveGroupSpacing(text, ' ');
     if (base == bdBinary || base == bdOctal)
         hex = base == bdBinary ? Bin2Hex(hex) : Oct2Hex(hex);
-    else if (base == bdDecimal) // the value's own digits, not zero-filled to 64 bits
-        hex = Int2EHex(ParseDecimalEntry(hex));
-    else
+    else if (base == bdDecimal) { // the value's own digits, not zero-filled to 64 bits
+        std::uint64_t bits = 0;
+        bool negative = false;
+        if (!ReadDecimal(hex, bits, negative))
+            throw EConvertError(FormatMessage(rsInvalidInteger(), hex));
+        hex = Int2EHex(static_cast<std::int64_t>(bits));
+    } else
         std::transform(hex.begin(), hex.end(), hex.begin(), [](char c) {
             return static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
         });
@@ -354,33 +329,21 @@ std::string EntryToHex(const std::string& text, TQORBaseDisplay base)
 TQORProgCalcEngine::TQORProgCalcEngine()
 {
     ClearEntry();
-    value_ = 0;
     // Base and size still hold their zero ordinals here, so the first display is eight binary
     // zeros; the owner refreshes it before showing it.
     SetDisplayValue0();
-    lastKey_ = ocNone;
-    lastError_.clear();
-    maxDisplayLength_ = 26;
-    operands_.Clear();
-    operators_.Clear();
-    ClearHistory();
-    precedence_ = true;
-    memoryHistory_ = false;
     baseDisplay_ = bdHexadecimal;
     bitSize_ = bs64Bits;
-    spacing_ = psNoSpacing;
-    sizeChange_ = pscClear;
-    prefixFunctions_ = true;
 }
 
 // ---- Texts of the value --------------------------------------------------------------------
 
 void TQORProgCalcEngine::GetNoChars(int& hexChars, int& octChars, int& binChars) const
 {
-    const TDigitCounts& counts = kDigitCounts[bitSize_ & 3U];
-    hexChars = counts.Hex;
-    octChars = counts.Oct;
-    binChars = counts.Bin;
+    const int bits = BitSizeBits(bitSize_);
+    hexChars = DigitsFor(bits, 4);
+    octChars = DigitsFor(bits, 3);
+    binChars = bits;
 }
 
 int TQORProgCalcEngine::GroupWidth() const
@@ -415,17 +378,14 @@ inline void TQORProgCalcEngine::SetTexts(std::uint64_t bits, TQORBitSize size)
 // Each text is written on its first read after the pattern changed, then kept.
 const std::string& TQORProgCalcEngine::ValueText(TTextBase which) const
 {
-    static constexpr int kRadixBits[] = {4, 3, 1};
-    static constexpr int TDigitCounts::*kCounts[]
-        = {&TDigitCounts::Hex, &TDigitCounts::Oct, &TDigitCounts::Bin};
     std::string& text = texts_.Text[which];
     if (which == tbHex && texts_.RejectedHex)
         return text;
     if (!textsSet_) {
         text.clear();
     } else if ((texts_.Made & (1U << which)) == 0) {
-        WritePattern(text, textBits_, kRadixBits[which],
-                     kDigitCounts[textSize_ & 3U].*kCounts[which]);
+        const int radixBits = kTextRadixBits[which];
+        WritePattern(text, textBits_, radixBits, DigitsFor(BitSizeBits(textSize_), radixBits));
         texts_.Made = static_cast<std::uint8_t>(texts_.Made | (1U << which));
     }
     return text;
@@ -434,22 +394,7 @@ const std::string& TQORProgCalcEngine::ValueText(TTextBase which) const
 // The value text of the current base; decimal has none (it is formatted from the value).
 const std::string* TQORProgCalcEngine::BaseText() const
 {
-    switch (baseDisplay_) {
-    case bdBinary:
-        return &ValueText(tbBin);
-    case bdOctal:
-        return &ValueText(tbOct);
-    case bdDecimal:
-        return nullptr;
-    default:
-        return &ValueText(tbHex);
-    }
-}
-
-std::string TQORProgCalcEngine::CurrentText() const
-{
-    const std::string* text = BaseText();
-    return text != nullptr ? *text : DisplayValue(value_);
+    return baseDisplay_ == bdDecimal ? nullptr : &ValueText(TextBaseOf(baseDisplay_));
 }
 
 void TQORProgCalcEngine::ShowCurrentText()
@@ -464,7 +409,7 @@ void TQORProgCalcEngine::ShowCurrentText()
         displayIsEntry_ = false;
         displayPlain_ = GroupWidth() == 0 ? kPlain : kPlainUnknown;
     }
-    Notify(onDisplayChange_);
+    Fire(onDisplayChange_, this);
 }
 
 void TQORProgCalcEngine::SetDisplayValue0()
@@ -472,7 +417,7 @@ void TQORProgCalcEngine::SetDisplayValue0()
     FormatValue(display_, 0, baseDisplay_, bitSize_, spacing_, maxDisplayLength_);
     displayIsEntry_ = false;
     displayPlain_ = GroupWidth() == 0 ? kPlain : kPlainUnknown;
-    Notify(onDisplayChange_);
+    Fire(onDisplayChange_, this);
 }
 
 void TQORProgCalcEngine::SetDisplayValue(const std::string& s)
@@ -480,14 +425,14 @@ void TQORProgCalcEngine::SetDisplayValue(const std::string& s)
     display_ = s;
     displayIsEntry_ = false;
     displayPlain_ = kPlainUnknown;
-    Notify(onDisplayChange_);
+    Fire(onDisplayChange_, this);
 }
 
 void TQORProgCalcEngine::ShowEntry()
 {
     displayIsEntry_ = true; // no copy: the entry is shown until it next changes
     displayPlain_ = entryPlain_ ? kPlain : kNotPlain;
-    Notify(onDisplayChange_);
+    Fire(onDisplayChange_, this);
 }
 
 void TQORProgCalcEngine::KnowEntryBits(std::uint64_t bits, bool negative) noexcept
@@ -538,32 +483,18 @@ bool TQORProgCalcEngine::EntryValue(std::uint64_t& bits)
     entryBase_ = baseDisplay_;
     entryNegative_ = false;
     if (baseDisplay_ == bdDecimal) {
-        std::size_t i = 0;
-        bool negative = false;
-        for (; i < entry_.size() && (entry_[i] == '+' || entry_[i] == '-' || entry_[i] == ' '); ++i)
-            negative = negative != (entry_[i] == '-');
-        for (; i < entry_.size(); ++i) {
-            const char c = entry_[i];
-            if (c == ' ')
-                continue;
-            if (c < '0' || c > '9')
-                return false;
-            v = v * 10U + static_cast<std::uint64_t>(c - '0');
-        }
-        bits = negative ? 0U - v : v;
-        entryBits_ = bits;
-        entryNegative_ = negative;
-        entryBitsKnown_ = true;
-        return true;
-    }
-    const int radixBits = RadixBits(baseDisplay_);
-    for (const char c : entry_) {
-        const std::uint8_t digit = kDigitValues[static_cast<unsigned char>(c)];
-        if (digit == kBlankDigit)
-            continue;
-        if (digit >= (1U << radixBits))
+        if (!ReadDecimal(entry_, v, entryNegative_))
             return false;
-        v = (v << radixBits) | digit;
+    } else {
+        const int radixBits = RadixBits(baseDisplay_);
+        for (const char c : entry_) {
+            const std::uint8_t digit = kDigitValues[static_cast<unsigned char>(c)];
+            if (digit == kBlankDigit)
+                continue;
+            if (digit >= (1U << radixBits))
+                return false;
+            v = (v << radixBits) | digit;
+        }
     }
     bits = v;
     entryBits_ = bits;
@@ -590,7 +521,7 @@ std::uint64_t TQORProgCalcEngine::EntryBitsFromText()
 {
     std::uint64_t bits = 0;
     if (!EntryValue(bits)) {
-        const int hexChars = kDigitCounts[bitSize_ & 3U].Hex;
+        const int hexChars = DigitsFor(BitSizeBits(bitSize_), 4);
         const std::string hex = RightStr(EntryToHex(entry_, baseDisplay_), hexChars);
         const std::string cut = RightStr(PadChLeftStr(hex, '0', 16), hexChars);
         try {
@@ -623,11 +554,8 @@ void TQORProgCalcEngine::ChangeValues(TQORBaseDisplay oldBase, TQORBaseDisplay n
         // bits, with as many digits as the conversion through hexadecimal text gives: a digit
         // per hexadecimal digit, 4 bits per binary or 3 per octal digit rounded up, a decimal
         // value's significant digits; at most the 16 of the pattern.
-        int hexDigits = 1;
-        if (oldBase == bdDecimal) {
-            while (hexDigits < 16 && (bits >> (4 * hexDigits)) != 0)
-                ++hexDigits;
-        } else {
+        int hexDigits = SignificantHexDigits(bits);
+        if (oldBase != bdDecimal) {
             const auto typed = static_cast<int>(
                 entry_.size()
                 - static_cast<std::size_t>(std::count(entry_.begin(), entry_.end(), ' ')));
@@ -639,7 +567,7 @@ void TQORProgCalcEngine::ChangeValues(TQORBaseDisplay oldBase, TQORBaseDisplay n
             FormatValue(entry_, static_cast<std::int64_t>(bits), newBase, bitSize_, spacing_,
                         maxDisplayLength_);
         else // the digits that hold 4 bits per hexadecimal digit
-            WritePattern(entry_, bits, radixBits, (4 * hexDigits + radixBits - 1) / radixBits);
+            WritePattern(entry_, bits, radixBits, DigitsFor(4 * hexDigits, radixBits));
         EntryChanged();
         return;
     }
@@ -666,22 +594,16 @@ std::int64_t TQORProgCalcEngine::GetDisplayValue()
 const std::string& TQORProgCalcEngine::DisplayValueIn(TQORBaseDisplay textBase)
 {
     UpdateValues();
-    const auto which = textBase == bdHexadecimal ? tbHex : textBase == bdOctal ? tbOct : tbBin;
+    const TTextBase which = TextBaseOf(textBase);
     std::string& s = valueTextsOut_[which];
     if (!entry_.empty()) {
-        s = textBase == bdHexadecimal ? ValueText(tbHex) : ValueText(tbOct);
+        s = ValueText(which == tbHex ? tbHex : tbOct);
     } else if (!operands_.Empty()) {
-        // The hexadecimal digits of the value without leading zeros (at least one), and the
-        // same bits as ceil(4n/3) octal or 4n binary digits.
+        // The hexadecimal digits of the value without leading zeros, and the same bits as
+        // ceil(4n/3) octal or 4n binary digits.
         const auto bits = static_cast<std::uint64_t>(operands_.Top());
-        int hexDigits = 1;
-        while (hexDigits < 16 && (bits >> (4 * hexDigits)) != 0)
-            ++hexDigits;
-        static constexpr int kRadixBits[] = {4, 3, 1};
-        const int count = which == tbHex ? hexDigits
-            : which == tbOct             ? (4 * hexDigits + 2) / 3
-                                         : 4 * hexDigits;
-        WritePattern(s, bits, kRadixBits[which], count);
+        const int radixBits = kTextRadixBits[which];
+        WritePattern(s, bits, radixBits, DigitsFor(4 * SignificantHexDigits(bits), radixBits));
     } else {
         s.clear();
     }
@@ -709,15 +631,14 @@ void TQORProgCalcEngine::Numeric(char ch)
 {
     if (ch >= 'a' && ch <= 'z')
         ch = static_cast<char>(ch - 'a' + 'A');
-    // Radix and longest entry by base ordinal (binary, decimal, hexadecimal, octal); any other
-    // base works as hexadecimal.
-    static constexpr unsigned kRadix[] = {2, 10, 16, 8};
-    const TDigitCounts& counts = kDigitCounts[bitSize_ & 3U];
-    const auto base = static_cast<unsigned>(baseDisplay_ <= bdOctal ? baseDisplay_ : bdHexadecimal);
-    const int limits[] = {counts.Bin, kMaxDecimalEntry, counts.Hex, counts.Oct};
+    // Radix and longest entry of the base; any base but these works as hexadecimal.
+    const bool decimal = baseDisplay_ == bdDecimal;
+    const int radixBits = RadixBits(baseDisplay_);
+    const unsigned radix = decimal ? 10U : 1U << radixBits;
+    const int limit = decimal ? kMaxDecimalEntry : DigitsFor(BitSizeBits(bitSize_), radixBits);
     const std::uint8_t digit = kDigitValues[static_cast<unsigned char>(ch)];
     const bool sign = ch == '+' || ch == '-';
-    if (!(digit < kRadix[base] || (sign && baseDisplay_ == bdDecimal)))
+    if (!(digit < radix || (sign && decimal)))
         return;
 
     // Leading zeros go; they leave the entry's value as it is.
@@ -726,7 +647,7 @@ void TQORProgCalcEngine::Numeric(char ch)
     if (sign) {
         entry_.insert(entry_.begin(), ch);
         EntryChanged();
-    } else if (static_cast<int>(entry_.size()) < limits[base]) {
+    } else if (static_cast<int>(entry_.size()) < limit) {
         entry_.push_back(ch);
         AppendEntryBits(digit);
     }
@@ -824,28 +745,15 @@ void TQORProgCalcEngine::PushOperatorStack(char ch) { operators_.Push(ch); }
 
 void TQORProgCalcEngine::SetSizeValueA(std::int64_t v)
 {
-    byteA_ = byteB_ = 0;
-    wordA_ = wordB_ = 0;
-    longA_ = longB_ = 0;
-    int64A_ = int64B_ = 0;
-    LoadSlotOfSize(bitSize_, v, byteA_, wordA_, longA_, int64A_);
+    operandA_ = SignExtend(v, bitSize_);
+    operandB_ = 0;
 }
 
 void TQORProgCalcEngine::SetSizeValues()
 {
     SetSizeValueA(!operands_.Empty() ? operands_.Top() : 0);
     if (operands_.Count() >= 2)
-        LoadSlotOfSize(bitSize_, operands_.Below(1), byteB_, wordB_, longB_, int64B_);
-}
-
-std::int64_t TQORProgCalcEngine::OperandA() const
-{
-    return SlotOfSize(bitSize_, byteA_, wordA_, longA_, int64A_);
-}
-
-std::int64_t TQORProgCalcEngine::OperandB() const
-{
-    return SlotOfSize(bitSize_, byteB_, wordB_, longB_, int64B_);
+        operandB_ = SignExtend(operands_.Below(1), bitSize_);
 }
 
 bool TQORProgCalcEngine::HigherPrecedence(char newOp, char topOp) const
@@ -863,9 +771,9 @@ void TQORProgCalcEngine::StackManipulation()
     const char op = operators_.Top();
     if (const auto* binary = FindCode(kBinaryOperators, op); binary && !operands_.Empty()) {
         // The processor's division fault covers a divisor whose word-size part is zero.
-        if (!binary->Apply && (operands_.Top() == 0 || OperandA() == 0))
+        if (!binary->Apply && (operands_.Top() == 0 || operandA_ == 0))
             throw EZeroDivide(rsDivideByZero());
-        const std::int64_t result = Compute(*binary, OperandB(), OperandA(), bitSize_ == bs64Bits);
+        const std::int64_t result = Compute(*binary, operandB_, operandA_, bitSize_ == bs64Bits);
         // With a single operand the left-hand side is 0 and the result stays the only operand.
         if (operands_.Count() >= 2) {
             operands_.Below(1) = result;
@@ -874,7 +782,7 @@ void TQORProgCalcEngine::StackManipulation()
             operands_.Top() = result;
         }
     } else if (op == ocNot && !operands_.Empty()) {
-        operands_.Top() = ~OperandA();
+        operands_.Top() = ~operandA_;
     }
     operators_.Drop();
 }
@@ -975,13 +883,7 @@ void TQORProgCalcEngine::HandleError(const std::string& message)
     SetDisplayValue(rsErrorMsg());
     lastError_ = message;
     AddToHistory(rsPaperErrLine());
-    Notify(onError_);
-}
-
-void TQORProgCalcEngine::Notify(const TQORProgCalcNotifyEvent& handler)
-{
-    if (handler)
-        handler(this);
+    Fire(onError_, this);
 }
 
 // ---- One-operand keys ----------------------------------------------------------------------
@@ -1032,7 +934,7 @@ void TQORProgCalcEngine::DoNot()
     UnaryKey(
         [this](std::int64_t v) {
             SetSizeValueA(v);
-            return ~OperandA();
+            return ~operandA_;
         },
         rsNOTPaper());
 }
@@ -1044,13 +946,13 @@ void TQORProgCalcEngine::ShiftKey(std::int64_t (*compute)(std::int64_t, int bits
     UnaryKey(
         [this, compute, n](std::int64_t v) {
             SetSizeValueA(v);
-            return compute(OperandA(), BitSizeBits(bitSize_), n);
+            return compute(operandA_, BitSizeBits(bitSize_), n);
         },
         word + " " + std::to_string(n));
 }
 
-void TQORProgCalcEngine::DoShl(std::int32_t count) { ShiftKey(ShiftLeft, rsSHLPaper(), count); }
-void TQORProgCalcEngine::DoShr(std::int32_t count) { ShiftKey(ShiftRight, rsSHRPaper(), count); }
+void TQORProgCalcEngine::DoShl(std::int32_t count) { ShiftKey(Shift<true>, rsSHLPaper(), count); }
+void TQORProgCalcEngine::DoShr(std::int32_t count) { ShiftKey(Shift<false>, rsSHRPaper(), count); }
 void TQORProgCalcEngine::DoRol(std::int32_t count)
 {
     ShiftKey(Rotate<ROL8, ROL16, ROL32, ROL64>, rsROLPaper(), count);
@@ -1067,13 +969,11 @@ std::int64_t TQORProgCalcEngine::ComputeAbs(std::int64_t v) noexcept
 
 // ---- Base, size and spacing ----------------------------------------------------------------
 
-bool TQORProgCalcEngine::OperatorPending() const { return kOperatorKeys.Contains(lastKey_); }
-
 void TQORProgCalcEngine::SetBaseDisplay(TQORBaseDisplay value)
 {
     if (value == baseDisplay_)
         return;
-    const bool pending = OperatorPending();
+    const bool pending = kOperatorKeys.Contains(lastKey_);
     if (!pending)
         DoResult();
     DetachDisplay();
@@ -1088,17 +988,17 @@ void TQORProgCalcEngine::SetBaseDisplay(TQORBaseDisplay value)
         ChangeValues(baseDisplay_, value);
     }
     baseDisplay_ = value;
-    Notify(onBaseDisplayChange_);
+    Fire(onBaseDisplayChange_, this);
     UpdateValues();
     if (value == bdDecimal) {
         // Decimal always works at 64 bits with signed values.
         bitSize_ = bs64Bits;
-        Notify(onBitSizeChange_);
+        Fire(onBitSizeChange_, this);
     }
     if (!pending)
         ShowCurrentText();
     AddToHistory(TextOf(kBaseNames, value));
-    Notify(onMemoryChange_);
+    Fire(onMemoryChange_, this);
 }
 
 void TQORProgCalcEngine::SetBaseDisplay2(TQORBaseDisplay value)
@@ -1132,7 +1032,7 @@ void TQORProgCalcEngine::ExtendSignBit()
     value_ = static_cast<std::int64_t>(bits);
     if (operands_.Empty()) {
         DetachDisplay();
-        entry_ = baseDisplay_ == bdDecimal ? Int2EStr(value_) : CurrentText();
+        entry_ = baseDisplay_ == bdDecimal ? Int2EStr(value_) : *BaseText();
         EntryChanged();
     } else {
         operands_.Top() = value_;
@@ -1145,7 +1045,7 @@ void TQORProgCalcEngine::SetBitSize(TQORBitSize value)
     if (value == bitSize_)
         return;
     bitSize_ = value;
-    Notify(onBitSizeChange_);
+    Fire(onBitSizeChange_, this);
     switch (sizeChange_) {
     case pscClear:
         AllClear();
@@ -1158,7 +1058,7 @@ void TQORProgCalcEngine::SetBitSize(TQORBitSize value)
     }
     AddToHistory(TextOf(kBitSizeTexts, value));
     ShowCurrentText();
-    Notify(onMemoryChange_);
+    Fire(onMemoryChange_, this);
     // Completes any half-entered expression at the new width.
     DoResult();
 }
@@ -1178,13 +1078,13 @@ void TQORProgCalcEngine::SetSpacing(TQORProgSpacing value)
     if (value == spacing_)
         return;
     spacing_ = value;
-    Notify(onSpacingChange_);
+    Fire(onSpacingChange_, this);
     if (baseDisplay_ == bdDecimal)
         SetDisplayValue(DisplayValue(value_));
     else // any other base works as hexadecimal
         SetDisplayValue(
             DisplayValueIn(RadixBits(baseDisplay_) == 4 ? bdHexadecimal : baseDisplay_));
-    Notify(onMemoryChange_);
+    Fire(onMemoryChange_, this);
     DoResult();
 }
 
@@ -1219,7 +1119,7 @@ void TQORProgCalcEngine::MemoryChange(bool add)
     }
     AddToHistory(add ? rsMemAddPaper() : rsMemSubPaper());
     MemoryHistoryLine();
-    Notify(onMemoryChange_);
+    Fire(onMemoryChange_, this);
 }
 
 void TQORProgCalcEngine::MemoryAdd() { MemoryChange(true); }
@@ -1230,7 +1130,7 @@ void TQORProgCalcEngine::MemoryClear()
     memory_ = 0;
     AddToHistory(rsMemClrPaper());
     MemoryHistoryLine();
-    Notify(onMemoryChange_);
+    Fire(onMemoryChange_, this);
 }
 
 void TQORProgCalcEngine::MemoryRecall()
@@ -1245,12 +1145,12 @@ void TQORProgCalcEngine::MemoryRecall()
 void TQORProgCalcEngine::SetMemory(std::int64_t v)
 {
     memory_ = v;
-    Notify(onMemoryChange_);
+    Fire(onMemoryChange_, this);
 }
 
 // ---- History -------------------------------------------------------------------------------
 
-const std::string& TQORProgCalcEngine::TapeText(TTapeLine& line)
+const std::string& TQORProgCalcEngine::TapeText(const TTapeLine& line)
 {
     if (line.Pending) {
         FormatValue(line.Text, line.Value, line.Base, line.Size, line.Spacing, line.MaxLength);
@@ -1264,7 +1164,7 @@ void TQORProgCalcEngine::AddToHistory(const std::string& s)
     TTapeLine& line = tape_.Add();
     line.Text = s;
     line.Pending = false;
-    Notify(onHistoryChange_);
+    Fire(onHistoryChange_, this);
 }
 
 // The line keeps the value and today's modes; its text is written when it is first read.
@@ -1277,7 +1177,7 @@ void TQORProgCalcEngine::AddToHistory(std::int64_t v)
     line.Spacing = spacing_;
     line.MaxLength = maxDisplayLength_;
     line.Pending = true;
-    Notify(onHistoryChange_);
+    Fire(onHistoryChange_, this);
 }
 
 void TQORProgCalcEngine::PaperLine() { AddToHistory(rsPaperLine()); }
@@ -1295,14 +1195,14 @@ std::string TQORProgCalcEngine::GetNextHistoryEntry()
 std::string TQORProgCalcEngine::GetHistoryEntry(std::uint16_t index) const
 {
     std::string s;
-    if (TTapeLine* line = tape_.At(index))
+    if (const TTapeLine* line = tape_.At(index))
         Regroup(s, TapeText(*line), GroupWidth());
     return s;
 }
 
 const std::string& TQORProgCalcEngine::GetLastHistoryEntry() const
 {
-    TTapeLine* last = tape_.Last();
+    const TTapeLine* last = tape_.Last();
     if (last == nullptr) {
         lastLine_.clear();
         return lastLine_;

@@ -296,8 +296,6 @@ private:
     void PushOperatorStack(char ch);
 
     // Helpers of the steps above.
-    std::int64_t OperandA() const;
-    std::int64_t OperandB() const;
     template<class Fn> void UnaryKey(Fn&& compute, const std::string& historyLine);
     void ShiftKey(std::int64_t (*compute)(std::int64_t, int bits, int count),
                   const std::string& word, std::int32_t count);
@@ -307,13 +305,10 @@ private:
     void ShowTopOperand();
     template<class Body> void Guarded(Body&& body); // the one error path of an operation
     void HandleError(const std::string& message);
-    void Notify(const TQORProgCalcNotifyEvent& handler);
-    std::string CurrentText() const;
     int GroupWidth() const; // of the current base and spacing
     const std::string* BaseText() const;
-    void ShowCurrentText(); // SetDisplayValue(CurrentText()) without a temporary text
+    void ShowCurrentText(); // the value in the current base as the display
     const std::string& DisplayValueIn(TQORBaseDisplay textBase);
-    bool OperatorPending() const;
     void EntryChanged() noexcept; // after any edit of the entry but a digit's
     // The entry's bits, sign and blank-free state, for an entry just set to digits.
     void KnowEntryBits(std::uint64_t bits, bool negative) noexcept;
@@ -338,16 +333,10 @@ private:
     }
     void AppendEntryBits(std::uint64_t digit);
 
-    // Operand slots, loaded with the word-size parts of the two top operands before each
+    // The word-size parts of the two top operands, sign-extended, loaded before each
     // evaluation step (A the right-hand operand, B the left-hand one).
-    std::int8_t byteA_ = 0;
-    std::int8_t byteB_ = 0;
-    std::int16_t wordA_ = 0;
-    std::int16_t wordB_ = 0;
-    std::int32_t longA_ = 0;
-    std::int32_t longB_ = 0;
-    std::int64_t int64A_ = 0;
-    std::int64_t int64B_ = 0;
+    std::int64_t operandA_ = 0;
+    std::int64_t operandB_ = 0;
 
     std::string entry_; // characters typed since the last operator or result
     // The entry's value as EntryValue reads it, kept while only digits are appended: the bits,
@@ -365,6 +354,12 @@ private:
     TQORBitSize textSize_ = bs8Bits;
     bool textsSet_ = false; // all three are empty until first set
     enum TTextBase : std::uint8_t { tbHex, tbOct, tbBin };
+    static constexpr int kTextRadixBits[] = {4, 3, 1}; // by TTextBase
+    // Any base but binary and octal works as hexadecimal.
+    static TTextBase TextBaseOf(TQORBaseDisplay base)
+    {
+        return base == bdBinary ? tbBin : base == bdOctal ? tbOct : tbHex;
+    }
     struct TValueTexts {
         std::string Text[3]; // by TTextBase
         std::uint8_t Made = 0; // bit per TTextBase: the text holds the current pattern
@@ -395,26 +390,24 @@ private:
     std::int64_t memory_ = 0;
     engine_internal::TQOREvalStack<std::int64_t> operands_;
     engine_internal::TQOREvalStack<char> operators_;
-    bool prefixFunctions_ = false;
-    bool precedence_ = false;
+    bool prefixFunctions_ = true;
+    bool precedence_ = true;
     bool memoryHistory_ = false;
-    // The history. A value line keeps the value and the modes it was written in and is
-    // written out when first read; slots and their texts are reused after a clear.
-    // A tape line: a text, or a value with the modes of its moment whose text is written
-    // when the line is first read.
+    // The history. A line is a text, or a value with the modes of its moment whose text is
+    // written when the line is first read; slots and their texts are reused after a clear.
     struct TTapeLine {
-        std::string Text;
+        mutable std::string Text;
         std::int64_t Value = 0;
         TQORBaseDisplay Base = bdBinary;
         TQORBitSize Size = bs8Bits;
         TQORProgSpacing Spacing = psNoSpacing;
         std::uint8_t MaxLength = 0;
-        bool Pending = false; // Text does not hold the value line yet
+        mutable bool Pending = false; // Text does not hold the value line yet
     };
-    static const std::string& TapeText(TTapeLine& line);
-    mutable engine_internal::TQORTapeStore<TTapeLine> tape_;
+    static const std::string& TapeText(const TTapeLine& line);
+    engine_internal::TQORTapeStore<TTapeLine> tape_;
     engine_internal::TQORErrorGuard guard_;
-    std::uint8_t maxDisplayLength_ = 0;
+    std::uint8_t maxDisplayLength_ = 26;
 
     TQORProgCalcNotifyEvent onHistoryChange_;
     TQORProgCalcNotifyEvent onDisplayChange_;
