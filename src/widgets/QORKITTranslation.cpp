@@ -40,9 +40,12 @@ namespace {
 QStringList TranslationDirs()
 {
     QStringList dirs {QStringLiteral(":/qorkit/i18n"), QStringLiteral(QORKIT_INSTALL_TRANSLATIONS)};
-    if (QCoreApplication::instance() != nullptr)
-        dirs << QDir(QCoreApplication::applicationDirPath())
-                    .filePath(QStringLiteral("translations"));
+    if (QCoreApplication::instance() != nullptr) {
+        const QDir appDir(QCoreApplication::applicationDirPath());
+        // An application in PREFIX/bin of a prefix moved after installing.
+        dirs << QDir::cleanPath(appDir.filePath(QStringLiteral("../share/qorkit/translations")))
+             << appDir.filePath(QStringLiteral("translations"));
+    }
     return dirs;
 }
 

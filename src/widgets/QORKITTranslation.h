@@ -32,7 +32,9 @@ QORKIT_WIDGETS_EXPORT void InstallQtTranslationHook();
 // Installs the library's own translation for a locale in one call: a QTranslator holding
 // qorkit_<language>.qm (for de_DE: qorkit_de_DE.qm, else qorkit_de.qm), looked up in the
 // translations built into the library (":/qorkit/i18n"), then in the install directory
-// (PREFIX/share/qorkit/translations), then in "translations" beside the application. It also
+// (PREFIX/share/qorkit/translations), then in ../share/qorkit/translations from the
+// application's folder (an installed prefix moved elsewhere), then in "translations" beside
+// the application. It also
 // installs the translation hook. A translation loaded by an earlier call is removed first, so
 // switching languages works; English needs no file and gives false. Number formats are not
 // touched: call SyncFormatSettingsFromLocale() for those. Needs a QCoreApplication.
