@@ -418,6 +418,10 @@ void TQORCalcFormBase::changeEvent(QEvent* event)
         UpdateLanguage();
     else if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
         FitKeyCaptions();
+    else if (event->type() == QEvent::LayoutDirectionChange) {
+        MirrorChildren();
+        UpdateTabOrder();
+    }
 }
 
 void TQORCalcFormBase::SetPanelText(TQORBasePanel* panel, const QString& text, bool fitted)
@@ -435,7 +439,9 @@ void TQORCalcFormBase::SetPanelText(TQORBasePanel* panel, const QString& text, b
 void TQORCalcFormBase::UpdateTabOrder()
 {
     // Everything Tab reaches, by where it is on the form: rows top to bottom (keys of a row
-    // share their top), left to right inside a row; the tape beside the keys comes last.
+    // share their top), in reading order inside a row (right to left on a form that reads so);
+    // the tape beside the keys comes last.
+    const bool rightToLeft = layoutDirection() == Qt::RightToLeft;
     struct TStop {
         int Top;
         int Left;
@@ -446,7 +452,8 @@ void TQORCalcFormBase::UpdateTabOrder()
         if ((widget->focusPolicy() & Qt::TabFocus) != 0 && !widget->isHidden()
             && widget != TapeView) {
             const QPoint topLeft = widget->mapTo(this, QPoint(0, 0));
-            chain.push_back({topLeft.y(), topLeft.x(), widget});
+            const int along = rightToLeft ? -(topLeft.x() + widget->width()) : topLeft.x();
+            chain.push_back({topLeft.y(), along, widget});
         }
     }
     // A control's inner editor (a spin edit's line edit) goes with its control.
@@ -509,10 +516,27 @@ void TQORCalcFormBase::LayoutPanels(int rows, int extraHeight)
     const int h = geometry_.KeyHeight;
     const int clientWidth = geometry_.Columns * geometry_.KeyWidth + 10;
     const int d = PanelHeight + 10;
-    ValueDisplay->setGeometry(5, 5, clientWidth - 10, PanelHeight);
-    KeyPanel->move(5, d);
-    MemoryDisplay->setGeometry(5, d + rows * h + 5, clientWidth - 10, PanelHeight);
+    PlaceChild(ValueDisplay, QRect(5, 5, clientWidth - 10, PanelHeight));
+    PlaceChild(KeyPanel, QRect(QPoint(5, d), KeyPanel->size()));
+    PlaceChild(MemoryDisplay, QRect(5, d + rows * h + 5, clientWidth - 10, PanelHeight));
     SetFormSize(clientWidth, 2 * d + rows * h + 5 + extraHeight);
+}
+
+void TQORCalcFormBase::PlaceChild(QWidget* child, const QRect& place)
+{
+    const auto known = std::find_if(places_.begin(), places_.end(),
+                                    [child](const auto& row) { return row.first == child; });
+    if (known != places_.end())
+        known->second = place;
+    else
+        places_.emplace_back(child, place);
+    child->setGeometry(QStyle::visualRect(layoutDirection(), rect(), place));
+}
+
+void TQORCalcFormBase::MirrorChildren()
+{
+    for (const auto& [child, place] : places_)
+        child->setGeometry(QStyle::visualRect(layoutDirection(), rect(), place));
 }
 
 void TQORCalcFormBase::SetFormSize(int width, int height)
@@ -520,9 +544,10 @@ void TQORCalcFormBase::SetFormSize(int width, int height)
     formWidth_ = width;
     formHeight_ = height;
     const bool tape = showTape_ && TapeView != nullptr;
-    if (tape)
-        TapeView->setGeometry(width, 5, TapeWidth, height - 10);
     setFixedSize(width + (tape ? TapeWidth + 5 : 0), height);
+    if (tape)
+        PlaceChild(TapeView, QRect(width, 5, TapeWidth, height - 10));
+    MirrorChildren(); // the form's width changed: right to left, everything moves
 }
 
 void TQORCalcFormBase::SetTapeModel(TQORTapeModel* model) { tapeModel_ = model; }

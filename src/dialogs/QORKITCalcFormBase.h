@@ -286,6 +286,9 @@ protected:
     void SetPanelText(TQORBasePanel* panel, const QString& text, bool fitted = false);
     // The form's size without the tape (the tape adds its width when shown).
     void SetFormSize(int width, int height);
+    // Puts a child of the form at `place`, given as laid out left to right; a form that reads
+    // right to left shows it mirrored (and the tape on the left).
+    void PlaceChild(QWidget* child, const QRect& place);
     // Gives the form its tape (made after the engine's own handlers are set); the view is made
     // by the first SetShowTape(true).
     void SetTapeModel(TQORTapeModel* model);
@@ -311,6 +314,7 @@ private:
     bool PreviewChar(QKeyEvent* event, char ch);
     void LayOutGrid(const std::vector<TGridCell>& cells, int rows);
     void MakeTapeView();
+    void MirrorChildren(); // every placed child where its left-to-right place says
 
     // A key member of a form derived from this class, kept as a member of this class: it is
     // applied to this form only, which is of the class the member was taken from.
@@ -335,6 +339,7 @@ private:
     QString defaultTitle_; // the caption UpdateLanguage gave
     QFont displayFont_; // of both panels, before any fitting
     std::vector<std::pair<TQORBasePanel*, QString>> fittedTexts_;
+    std::vector<std::pair<QWidget*, QRect>> places_; // children placed by PlaceChild
     TQORTapeModel* tapeModel_ = nullptr;
     int formWidth_ = 0;
     int formHeight_ = 0;

@@ -198,12 +198,12 @@ TQORProgCalcForm::TQORProgCalcForm(QWidget* parent)
     const int keysLeft = (ClientWidth - keysWidth) / 2;
     // The panels are as tall as the fixed size allows: a 64-bit binary value is shown on two
     // lines of 32 digits.
-    ValueDisplay->setGeometry(keysLeft, ValueTop, keysWidth, ValueHeight);
-    MemoryDisplay->setGeometry(keysLeft, RowTop, keysWidth - 2 * ComboWidth - 8, RowHeight);
-    BaseCombo->setGeometry(keysLeft + keysWidth - 2 * ComboWidth - 4, RowTop, ComboWidth,
-                           RowHeight);
-    BitsCombo->setGeometry(keysLeft + keysWidth - ComboWidth, RowTop, ComboWidth, RowHeight);
-    KeyPanel->move(keysLeft, KeysTop);
+    PlaceChild(ValueDisplay, QRect(keysLeft, ValueTop, keysWidth, ValueHeight));
+    PlaceChild(MemoryDisplay, QRect(keysLeft, RowTop, keysWidth - 2 * ComboWidth - 8, RowHeight));
+    PlaceChild(BaseCombo,
+               QRect(keysLeft + keysWidth - 2 * ComboWidth - 4, RowTop, ComboWidth, RowHeight));
+    PlaceChild(BitsCombo, QRect(keysLeft + keysWidth - ComboWidth, RowTop, ComboWidth, RowHeight));
+    PlaceChild(KeyPanel, QRect(QPoint(keysLeft, KeysTop), KeyPanel->size()));
     SetFormSize(ClientWidth, ClientHeight);
 
     // The size list is deliberately not told of size changes the engine makes by itself

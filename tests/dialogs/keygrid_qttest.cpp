@@ -10,6 +10,7 @@
 
 #include <QGridLayout>
 #include <QGuiApplication>
+#include <QListView>
 #include <QTranslator>
 
 #include <functional>
@@ -166,6 +167,53 @@ TEST_P(KeyGridTest, LongTranslatedCaptionsMoveNoKey)
     ASSERT_EQ(translated.size(), before.size());
     for (const auto& [name, place] : before)
         EXPECT_EQ(translated.at(name), place) << name.toStdString();
+}
+
+// The form's own children (panels, lists, the key panel, the tape) stand mirrored in a form
+// that reads right to left, and Tab goes through a row of keys from the right.
+TEST_P(KeyGridTest, RightToLeftMirrorsThePanelsAndTheTape)
+{
+    const auto ltr = GetParam().Make();
+    ltr->SetShowTape(true);
+    const int width = ltr->width();
+    std::map<QString, QRect> leftToRight;
+    for (auto* child : ltr->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        if (!child->isHidden() && !child->objectName().isEmpty())
+            leftToRight[child->objectName()] = child->geometry();
+    }
+    const auto expectMirrored = [&](const TQORCalcFormBase& form, const char* how) {
+        ASSERT_EQ(form.width(), width) << how;
+        for (const auto& [name, place] : leftToRight) {
+            auto* child = form.findChild<QWidget*>(name, Qt::FindDirectChildrenOnly);
+            ASSERT_NE(child, nullptr) << name.toStdString();
+            EXPECT_EQ(
+                child->geometry(),
+                QRect(width - place.x() - place.width(), place.y(), place.width(), place.height()))
+                << name.toStdString() << ", " << how;
+        }
+        ASSERT_NE(form.TapeView, nullptr);
+        EXPECT_EQ(form.TapeView->x(), 5) << how; // the tape on the left
+    };
+
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    const auto rtl = GetParam().Make();
+    rtl->SetShowTape(true);
+    expectMirrored(*rtl, "made right to left");
+    // Tab goes through a row of keys from the right.
+    rtl->UpdateTabOrder();
+    QWidget* first = rtl->KeyPanel->findChild<QWidget*>(QStringLiteral("AllClearBtn"));
+    ASSERT_NE(first, nullptr);
+    QWidget* next = first->nextInFocusChain();
+    while (next != nullptr && (next->focusPolicy() & Qt::TabFocus) == 0)
+        next = next->nextInFocusChain();
+    ASSERT_NE(next, nullptr);
+    if (next->y() == first->y() && next->parentWidget() == first->parentWidget()) {
+        EXPECT_LT(next->x(), first->x()) << next->objectName().toStdString();
+    }
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+
+    ltr->setLayoutDirection(Qt::RightToLeft);
+    expectMirrored(*ltr, "turned");
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, KeyGridTest, ::testing::ValuesIn(FormRows), test::RowName<FormRow>);
