@@ -207,14 +207,12 @@ TEST_F(AccessibleNameTest, EachNewFormShowsTheTextsOfItsTime)
 {
     const auto texts = [](const TQORSciCalcForm& form) {
         return QStringList {form.SinBtn->text(), form.SinBtn->toolTip(),
-                            form.SinBtn->accessibleName(),
-                            form.SinBtn->accessibleDescription()};
+                            form.SinBtn->accessibleName(), form.SinBtn->accessibleDescription()};
     };
     const QStringList english = texts(TQORSciCalcForm());
     ASSERT_EQ(english[2], QStringLiteral("sine"));
-    SetTranslationHook([](std::string_view, std::string_view source) {
-        return "<" + std::string(source) + ">";
-    });
+    SetTranslationHook(
+        [](std::string_view, std::string_view source) { return "<" + std::string(source) + ">"; });
     const QStringList marked = texts(TQORSciCalcForm());
     SetTranslationHook({});
     for (qsizetype i = 0; i < english.size(); ++i)
