@@ -32,10 +32,10 @@ struct QORKIT_BASE_EXPORT TResourceText {
     std::string_view Source;
 };
 
-// Expands a text table into declarations / definitions of its rs... functions.
-// The texts of every library are exported; on ELF platforms the base library's macro gives the
-// default visibility whichever library defines the text.
-#define QORKIT_DECLARE_TEXT(name, text) QORKIT_BASE_EXPORT std::string name();
+// Expands a text table into declarations / definitions of its rs... functions. A table is
+// declared with the macro of the library that defines it (QORKIT_BASE_DECLARE_TEXT,
+// QORKIT_CORE_DECLARE_TEXT, QORKIT_WIDGETS_DECLARE_TEXT, from the library's export header), so
+// its functions carry that library's export macro.
 #define QORKIT_DEFINE_TEXT(name, text)                                                             \
     std::string name() { return ::qorkit::LoadResString(kTextContext, text); }
 #define QORKIT_LIST_TEXT(name, text) ::qorkit::TResourceText {#name, text},
@@ -67,7 +67,7 @@ struct QORKIT_BASE_EXPORT TResourceText {
     X(rsInvalidAngle, "'%s' is not a valid angle")                                                 \
     X(rsIntegerOverflow, "'%s' is out of the integer range")
 
-QORKIT_BASE_TEXTS(QORKIT_DECLARE_TEXT)
+QORKIT_BASE_TEXTS(QORKIT_BASE_DECLARE_TEXT)
 
 // All base-library texts.
 QORKIT_BASE_EXPORT std::span<const TResourceText> BaseTexts();

@@ -27,7 +27,7 @@ namespace qorkit {
 
 #define QORKIT_EXPREDIT_TEXTS(X) X(rsExpressionNotEvaluated, "'%s' cannot be evaluated")
 
-QORKIT_EXPREDIT_TEXTS(QORKIT_DECLARE_TEXT)
+QORKIT_EXPREDIT_TEXTS(QORKIT_WIDGETS_DECLARE_TEXT)
 QORKIT_WIDGETS_EXPORT std::span<const TResourceText> ExprEditTexts();
 
 class QORKIT_WIDGETS_EXPORT TQORExpressEdit : public TQORStartEdit {

@@ -27,7 +27,7 @@ namespace qorkit {
     X(rsImperialConst, "const")                                                                    \
     X(rsImperialPower, "Power")
 
-QORKIT_IMPERIAL_TEXTS(QORKIT_DECLARE_TEXT)
+QORKIT_IMPERIAL_TEXTS(QORKIT_CORE_DECLARE_TEXT)
 
 // Every text of this module, in table order.
 QORKIT_CORE_EXPORT std::span<const TResourceText> ImperialTexts();

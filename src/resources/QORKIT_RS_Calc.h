@@ -185,7 +185,7 @@ namespace qorkit {
     X(rsCannot, "Cannot show more than ")                                                          \
     X(rsDecimalPlaces, " decimal places")
 
-QORKIT_RS_CALC_TEXTS(QORKIT_DECLARE_TEXT)
+QORKIT_RS_CALC_TEXTS(QORKIT_CORE_DECLARE_TEXT)
 
 // Every text of this module, in table order.
 QORKIT_CORE_EXPORT std::span<const TResourceText> CalcTexts();

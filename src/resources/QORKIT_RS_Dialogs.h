@@ -26,7 +26,7 @@ namespace qorkit {
     X(rsBitsAccName, "bit length")                                                                 \
     X(rsTapeAccDescription, "Every number and operation so far, newest last")
 
-QORKIT_RS_DIALOG_TEXTS(QORKIT_DECLARE_TEXT)
+QORKIT_RS_DIALOG_TEXTS(QORKIT_CORE_DECLARE_TEXT)
 
 // What each key of the calculator dialogs does, by the key's object name: X(key, name,
 // description). The standard and scientific calculators read the first table, the programmer's

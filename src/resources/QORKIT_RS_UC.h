@@ -1309,7 +1309,7 @@ namespace qorkit {
 #define QORKIT_UC_DECLARE_NAME(member, text) QORKIT_CORE_EXPORT std::string rsName_##member();
 #define QORKIT_UC_DECLARE_LIST(list, stem) list(QORKIT_UC_DECLARE_NAME)
 QORKIT_UC_NAME_LISTS(QORKIT_UC_DECLARE_LIST)
-QORKIT_RS_UC_TEXTS(QORKIT_DECLARE_TEXT)
+QORKIT_RS_UC_TEXTS(QORKIT_CORE_DECLARE_TEXT)
 
 // Every text of this module, in table order: the names of all lists, then the other texts.
 QORKIT_CORE_EXPORT std::span<const TResourceText> UCTexts();

@@ -39,7 +39,7 @@ namespace qorkit {
     X(rsValueOutOfBounds, "'%s' is outside the allowed range")                                     \
     X(rsValueNotFinite, "The value is not a finite number")
 
-QORKIT_FLOATEDIT_TEXTS(QORKIT_DECLARE_TEXT)
+QORKIT_FLOATEDIT_TEXTS(QORKIT_WIDGETS_DECLARE_TEXT)
 QORKIT_WIDGETS_EXPORT std::span<const TResourceText> FloatEditTexts();
 
 // The separators of a number edit: its own with CustomSeparators, otherwise the locale's
