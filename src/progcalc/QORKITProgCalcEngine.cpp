@@ -399,22 +399,19 @@ const std::string* TQORProgCalcEngine::BaseText() const
 
 void TQORProgCalcEngine::ShowCurrentText()
 {
-    if (const std::string* text = BaseText()) {
-        display_ = *text;
-        displayIsEntry_ = false;
-        // Value texts are digits only; rejected hexadecimal digits may be anything.
-        displayPlain_ = texts_.RejectedHex ? kPlainUnknown : kPlain;
-    } else {
-        FormatValue(display_, value_, baseDisplay_, bitSize_, spacing_, maxDisplayLength_);
-        displayIsEntry_ = false;
-        displayPlain_ = GroupWidth() == 0 ? kPlain : kPlainUnknown;
-    }
+    const std::string* text = BaseText();
+    if (text == nullptr)
+        return ShowValue(value_);
+    display_ = *text;
+    displayIsEntry_ = false;
+    // Value texts are digits only; rejected hexadecimal digits may be anything.
+    displayPlain_ = texts_.RejectedHex ? kPlainUnknown : kPlain;
     Fire(onDisplayChange_, this);
 }
 
-void TQORProgCalcEngine::SetDisplayValue0()
+void TQORProgCalcEngine::ShowValue(std::int64_t v)
 {
-    FormatValue(display_, 0, baseDisplay_, bitSize_, spacing_, maxDisplayLength_);
+    FormatValue(display_, v, baseDisplay_, bitSize_, spacing_, maxDisplayLength_);
     displayIsEntry_ = false;
     displayPlain_ = GroupWidth() == 0 ? kPlain : kPlainUnknown;
     Fire(onDisplayChange_, this);
@@ -465,11 +462,8 @@ const std::string& TQORProgCalcEngine::DisplayStrOtherwise() const
     if (display == rsErrorMsg())
         return display;
     Regroup(shown_, display, width);
-    if (shown_.empty()) {
-        std::string zero;
-        FormatValue(zero, 0, baseDisplay_, bitSize_, spacing_, maxDisplayLength_);
-        Regroup(shown_, zero, width);
-    }
+    if (shown_.empty()) // the zero display, already grouped by the same width
+        FormatValue(shown_, 0, baseDisplay_, bitSize_, spacing_, maxDisplayLength_);
     return shown_;
 }
 
@@ -611,13 +605,6 @@ const std::string& TQORProgCalcEngine::DisplayValueIn(TQORBaseDisplay textBase)
     return s;
 }
 
-const std::string& TQORProgCalcEngine::GetDisplayValueHex()
-{
-    return DisplayValueIn(bdHexadecimal);
-}
-const std::string& TQORProgCalcEngine::GetDisplayValueOct() { return DisplayValueIn(bdOctal); }
-const std::string& TQORProgCalcEngine::GetDisplayValueBin() { return DisplayValueIn(bdBinary); }
-
 // Runs one operation; see TQORErrorGuard.
 template<class Body> void TQORProgCalcEngine::Guarded(Body&& body)
 {
@@ -729,19 +716,12 @@ void TQORProgCalcEngine::AllClear()
 {
     operands_.Clear();
     operators_.Clear();
-    ClearEntry();
-    value_ = 0;
-    SetDisplayValue0();
+    ClearDisplay();
     lastError_.clear();
-    lastKey_ = ocNone;
     ClearHistory();
 }
 
 // ---- Stacks and evaluation -----------------------------------------------------------------
-
-void TQORProgCalcEngine::PushOperandStack(std::int64_t v) { operands_.Push(v); }
-
-void TQORProgCalcEngine::PushOperatorStack(char ch) { operators_.Push(ch); }
 
 void TQORProgCalcEngine::SetSizeValueA(std::int64_t v)
 {
@@ -969,11 +949,13 @@ std::int64_t TQORProgCalcEngine::ComputeAbs(std::int64_t v) noexcept
 
 // ---- Base, size and spacing ----------------------------------------------------------------
 
-void TQORProgCalcEngine::SetBaseDisplay(TQORBaseDisplay value)
+// The quiet change (SetBaseDisplay2) always completes the calculation, keeps the word size and
+// raises no event nor history line.
+void TQORProgCalcEngine::ChangeBase(TQORBaseDisplay value, bool announced)
 {
     if (value == baseDisplay_)
         return;
-    const bool pending = kOperatorKeys.Contains(lastKey_);
+    const bool pending = announced && kOperatorKeys.Contains(lastKey_);
     if (!pending)
         DoResult();
     DetachDisplay();
@@ -988,31 +970,20 @@ void TQORProgCalcEngine::SetBaseDisplay(TQORBaseDisplay value)
         ChangeValues(baseDisplay_, value);
     }
     baseDisplay_ = value;
-    Fire(onBaseDisplayChange_, this);
+    if (announced)
+        Fire(onBaseDisplayChange_, this);
     UpdateValues();
-    if (value == bdDecimal) {
+    if (announced && value == bdDecimal) {
         // Decimal always works at 64 bits with signed values.
         bitSize_ = bs64Bits;
         Fire(onBitSizeChange_, this);
     }
     if (!pending)
         ShowCurrentText();
-    AddToHistory(TextOf(kBaseNames, value));
-    Fire(onMemoryChange_, this);
-}
-
-void TQORProgCalcEngine::SetBaseDisplay2(TQORBaseDisplay value)
-{
-    if (value == baseDisplay_)
-        return;
-    DoResult();
-    DetachDisplay();
-    entry_ = display_ == rsErrorMsg() ? std::string() : display_;
-    EntryChanged();
-    ChangeValues(baseDisplay_, value);
-    baseDisplay_ = value;
-    UpdateValues();
-    ShowCurrentText();
+    if (announced) {
+        AddToHistory(TextOf(kBaseNames, value));
+        Fire(onMemoryChange_, this);
+    }
 }
 
 // Extend moves the old sign bit to the new top position and leaves the other bits as they
@@ -1039,37 +1010,27 @@ void TQORProgCalcEngine::ExtendSignBit()
     }
 }
 
-void TQORProgCalcEngine::SetBitSize(TQORBitSize value)
+// The quiet change (SetBitSize2) truncates whatever SizeChange says and raises no event nor
+// history line.
+void TQORProgCalcEngine::ChangeBitSize(TQORBitSize value, bool announced)
 {
     value = KnownBitSize(value);
     if (value == bitSize_)
         return;
     bitSize_ = value;
-    Fire(onBitSizeChange_, this);
-    switch (sizeChange_) {
-    case pscClear:
-        AllClear();
-        break;
-    case pscExtend:
-        ExtendSignBit();
-        break;
-    default:
-        break; // truncate: the result below is cut to the new size
+    if (announced) {
+        Fire(onBitSizeChange_, this);
+        // Truncate needs nothing here: the result below is cut to the new size.
+        if (sizeChange_ == pscClear)
+            AllClear();
+        else if (sizeChange_ == pscExtend)
+            ExtendSignBit();
+        AddToHistory(TextOf(kBitSizeTexts, value));
     }
-    AddToHistory(TextOf(kBitSizeTexts, value));
     ShowCurrentText();
-    Fire(onMemoryChange_, this);
+    if (announced)
+        Fire(onMemoryChange_, this);
     // Completes any half-entered expression at the new width.
-    DoResult();
-}
-
-void TQORProgCalcEngine::SetBitSize2(TQORBitSize value)
-{
-    value = KnownBitSize(value);
-    if (value == bitSize_)
-        return;
-    bitSize_ = value;
-    ShowCurrentText();
     DoResult();
 }
 
@@ -1103,8 +1064,10 @@ std::string TQORProgCalcEngine::GetSizeChangeStr() const
 
 // ---- Memory --------------------------------------------------------------------------------
 
-void TQORProgCalcEngine::MemoryHistoryLine()
+// The memory key's history line, then the register's value when MemoryHistory is on.
+void TQORProgCalcEngine::MemoryHistoryLine(const std::string& key)
 {
+    AddToHistory(key);
     if (memoryHistory_)
         AddToHistory("[" + rsMemoryHistoryPrefix() + DisplayValue(memory_) + " ]");
 }
@@ -1117,19 +1080,14 @@ void TQORProgCalcEngine::MemoryChange(bool add)
         const auto memory = static_cast<std::uint64_t>(memory_);
         memory_ = static_cast<std::int64_t>(add ? memory + top : memory - top);
     }
-    AddToHistory(add ? rsMemAddPaper() : rsMemSubPaper());
-    MemoryHistoryLine();
+    MemoryHistoryLine(add ? rsMemAddPaper() : rsMemSubPaper());
     Fire(onMemoryChange_, this);
 }
-
-void TQORProgCalcEngine::MemoryAdd() { MemoryChange(true); }
-void TQORProgCalcEngine::MemorySubtract() { MemoryChange(false); }
 
 void TQORProgCalcEngine::MemoryClear()
 {
     memory_ = 0;
-    AddToHistory(rsMemClrPaper());
-    MemoryHistoryLine();
+    MemoryHistoryLine(rsMemClrPaper());
     Fire(onMemoryChange_, this);
 }
 
@@ -1138,8 +1096,7 @@ void TQORProgCalcEngine::MemoryRecall()
     ConvertValues(memory_);
     ClearEntry();
     PushOperandStack(memory_);
-    AddToHistory(rsMemRecPaper());
-    MemoryHistoryLine();
+    MemoryHistoryLine(rsMemRecPaper());
 }
 
 void TQORProgCalcEngine::SetMemory(std::int64_t v)
@@ -1182,8 +1139,6 @@ void TQORProgCalcEngine::AddToHistory(std::int64_t v)
 
 void TQORProgCalcEngine::PaperLine() { AddToHistory(rsPaperLine()); }
 
-void TQORProgCalcEngine::ClearHistory() { tape_.Clear(); }
-
 std::string TQORProgCalcEngine::GetNextHistoryEntry()
 {
     TTapeLine* line = tape_.Next();
@@ -1218,8 +1173,6 @@ const std::string& TQORProgCalcEngine::GetLastHistoryEntry() const
             return line;
     return lastLine_;
 }
-
-std::int32_t TQORProgCalcEngine::GetHistoryLength() const { return tape_.Length(); }
 
 // ---- Named keys ------------------------------------------------------------------------------
 

@@ -164,10 +164,10 @@ public:
         return DisplayStrOtherwise();
     }
     std::int64_t GetDisplayValue() override;
-    const std::string& GetDisplayValueHex() override;
-    const std::string& GetDisplayValueOct() override;
+    const std::string& GetDisplayValueHex() override { return DisplayValueIn(bdHexadecimal); }
+    const std::string& GetDisplayValueOct() override { return DisplayValueIn(bdOctal); }
     // Returns the octal text while an entry is in progress; intended and kept.
-    const std::string& GetDisplayValueBin() override;
+    const std::string& GetDisplayValueBin() override { return DisplayValueIn(bdBinary); }
     const std::string& GetLastError() const override { return lastError_; }
 
     void InputString(const std::string& s) override;
@@ -198,13 +198,13 @@ public:
     void DoRol(std::int32_t count) override;
     void DoRor(std::int32_t count) override;
 
-    void SetBaseDisplay(TQORBaseDisplay value) override;
-    void SetBaseDisplay2(TQORBaseDisplay value) override;
+    void SetBaseDisplay(TQORBaseDisplay value) override { ChangeBase(value, true); }
+    void SetBaseDisplay2(TQORBaseDisplay value) override { ChangeBase(value, false); }
     TQORBaseDisplay GetBaseDisplay() const override { return baseDisplay_; }
     // Answers "Hex" for the octal base too; intended and kept.
     std::string GetBaseDisplayStr() const override;
-    void SetBitSize(TQORBitSize value) override;
-    void SetBitSize2(TQORBitSize value) override;
+    void SetBitSize(TQORBitSize value) override { ChangeBitSize(value, true); }
+    void SetBitSize2(TQORBitSize value) override { ChangeBitSize(value, false); }
     TQORBitSize GetBitSize() const override { return bitSize_; }
     std::string GetBitSizeStr() const override;
     void SetSpacing(TQORProgSpacing value) override;
@@ -218,8 +218,8 @@ public:
     void AllClear() override;
     void ClearDisplay() override;
     void MemoryClear() override;
-    void MemoryAdd() override;
-    void MemorySubtract() override;
+    void MemoryAdd() override { MemoryChange(true); }
+    void MemorySubtract() override { MemoryChange(false); }
     void MemoryRecall() override;
     void SetMemory(std::int64_t v) override;
     const std::string& GetMemoryContents() const override;
@@ -232,12 +232,12 @@ public:
     void SetMemoryHistory(bool value) override { memoryHistory_ = value; }
     bool GetMemoryHistory() const override { return memoryHistory_; }
 
-    void ClearHistory() override;
+    void ClearHistory() override { tape_.Clear(); }
     void HistoryStart() override { tape_.Start(); }
     std::string GetNextHistoryEntry() override;
     std::string GetHistoryEntry(std::uint16_t index) const override;
     const std::string& GetLastHistoryEntry() const override;
-    std::int32_t GetHistoryLength() const override;
+    std::int32_t GetHistoryLength() const override { return tape_.Length(); }
     std::int32_t GetHistoryPosition() const override { return tape_.Position(); }
     void SetHistoryPosition(std::int32_t value) override { tape_.SetPosition(value); }
     void PaperLine() override;
@@ -289,25 +289,28 @@ private:
     void ChangeValues(TQORBaseDisplay oldBase, TQORBaseDisplay newBase);
     void ConvertValues(std::int64_t v);
     void SetDisplayValue(const std::string& s);
-    void SetDisplayValue0();
+    void SetDisplayValue0() { ShowValue(0); }
     void SetSizeValues();
     void SetSizeValueA(std::int64_t v);
-    void PushOperandStack(std::int64_t v);
-    void PushOperatorStack(char ch);
+    void PushOperandStack(std::int64_t v) { operands_.Push(v); }
+    void PushOperatorStack(char ch) { operators_.Push(ch); }
 
     // Helpers of the steps above.
     template<class Fn> void UnaryKey(Fn&& compute, const std::string& historyLine);
     void ShiftKey(std::int64_t (*compute)(std::int64_t, int bits, int count),
                   const std::string& word, std::int32_t count);
+    void ChangeBase(TQORBaseDisplay value, bool announced);
+    void ChangeBitSize(TQORBitSize value, bool announced);
     void ExtendSignBit();
     void MemoryChange(bool add);
-    void MemoryHistoryLine();
+    void MemoryHistoryLine(const std::string& key);
     void ShowTopOperand();
     template<class Body> void Guarded(Body&& body); // the one error path of an operation
     void HandleError(const std::string& message);
     int GroupWidth() const; // of the current base and spacing
     const std::string* BaseText() const;
     void ShowCurrentText(); // the value in the current base as the display
+    void ShowValue(std::int64_t v); // v formatted for the current modes as the display
     const std::string& DisplayValueIn(TQORBaseDisplay textBase);
     void EntryChanged() noexcept; // after any edit of the entry but a digit's
     // The entry's bits, sign and blank-free state, for an entry just set to digits.
