@@ -311,8 +311,6 @@ void TQORCalcEngine::InputString(std::string_view S)
     });
 }
 
-void TQORCalcEngine::UseConstant(Extended Value) { InputValue(Value); }
-
 void TQORCalcEngine::UpdateValue()
 {
     Guarded([&] {
@@ -351,8 +349,6 @@ void TQORCalcEngine::PushOperandStack(Extended Value)
 {
     Guarded([&] { Push(Value); });
 }
-
-void TQORCalcEngine::PushOperatorStack(char Op) { operators_.Push(Op); }
 
 void TQORCalcEngine::EmptyStacks()
 {
@@ -413,16 +409,6 @@ void TQORCalcEngine::Arithmetic(char Op)
         lastOperator_ = Op;
     });
 }
-
-void TQORCalcEngine::DoAdd() { Arithmetic(ocAdd); }
-void TQORCalcEngine::DoSubtract() { Arithmetic(ocSubtract); }
-void TQORCalcEngine::DoMultiply() { Arithmetic(ocMultiply); }
-void TQORCalcEngine::DoDivide() { Arithmetic(ocDivide); }
-void TQORCalcEngine::DoPower() { Arithmetic(isInv_ ? ocRoot : ocPower); }
-void TQORCalcEngine::DoModulus() { Arithmetic(ocModulus); }
-void TQORCalcEngine::DoRemainder() { Arithmetic(ocRemainder); }
-void TQORCalcEngine::DoDiv() { Arithmetic(ocDiv); }
-void TQORCalcEngine::DoIntDiv() { Arithmetic(ocIntDiv); }
 
 void TQORCalcEngine::StackManipulation()
 {
@@ -753,11 +739,13 @@ const AngleUnit& UnitOf(TQORAngleMode mode)
 }
 
 // Hyperbolic functions take no angle conversion; the others work in the angle mode.
-Extended Trig(const TrigFamily& f, Extended x, bool inv, bool hyp, TQORAngleMode mode)
+Extended Trig(const TrigFamily& f, Extended x, const TQORCalcEngine& engine)
 {
-    if (hyp)
+    const bool inv = engine.GetIsInv();
+    if (engine.GetIsHyp())
         return inv ? f.InverseHyperbolic(x) : f.Hyperbolic(x);
-    return inv ? UnitOf(mode).FromRadians(f.Inverse(x)) : f.Direct(UnitOf(mode).ToRadians(x));
+    const AngleUnit& unit = UnitOf(engine.GetAngleMode());
+    return inv ? unit.FromRadians(f.Inverse(x)) : f.Direct(unit.ToRadians(x));
 }
 
 Extended SquareRoot(Extended x)
@@ -775,18 +763,9 @@ Extended TQORCalcEngine::Finish(Extended result)
     return CheckFloat(result);
 }
 
-Extended TQORCalcEngine::ComputeSin(Extended X)
-{
-    return Finish(Trig(SinFamily, X, isInv_, isHyp_, angleMode_));
-}
-Extended TQORCalcEngine::ComputeCos(Extended X)
-{
-    return Finish(Trig(CosFamily, X, isInv_, isHyp_, angleMode_));
-}
-Extended TQORCalcEngine::ComputeTan(Extended X)
-{
-    return Finish(Trig(TanFamily, X, isInv_, isHyp_, angleMode_));
-}
+Extended TQORCalcEngine::ComputeSin(Extended X) { return Finish(Trig(SinFamily, X, *this)); }
+Extended TQORCalcEngine::ComputeCos(Extended X) { return Finish(Trig(CosFamily, X, *this)); }
+Extended TQORCalcEngine::ComputeTan(Extended X) { return Finish(Trig(TanFamily, X, *this)); }
 Extended TQORCalcEngine::ComputeLog(Extended X)
 {
     return Finish(isInv_ ? XtoY(10, X) : QORLog10(X));
@@ -852,8 +831,11 @@ std::string TQORCalcEngine::GetAngleModeStr() const { return UnitOf(angleMode_).
 
 // ---- Memory --------------------------------------------------------------------------------
 
-void TQORCalcEngine::MemoryLine()
+// The memory key's tape line, then the register's value when MemoryHistory is on.
+void TQORCalcEngine::MemoryLine(const std::string& key)
 {
+    ClearToggles();
+    AddToHistory(key, false);
     if (memoryHistory_)
         AddToHistory("[" + rsMemoryHistoryPrefix() + DisplayValue(memory_) + " ]", false);
 }
@@ -870,9 +852,7 @@ void TQORCalcEngine::MemoryStep(int sign, const std::string& label)
             operand = operands_.Top();
         }
         memory_ = CheckFloat(memory_ + static_cast<Extended>(sign) * operand);
-        ClearToggles();
-        AddToHistory(label, false);
-        MemoryLine();
+        MemoryLine(label);
         Fire(onMemoryChange_, this);
     });
 }
@@ -883,9 +863,7 @@ void TQORCalcEngine::MemorySubtract() { MemoryStep(-1, rsMemSubPaper()); }
 void TQORCalcEngine::MemoryClear()
 {
     memory_ = 0;
-    ClearToggles();
-    AddToHistory(rsMemClrPaper(), false);
-    MemoryLine();
+    MemoryLine(rsMemClrPaper());
     Fire(onMemoryChange_, this);
 }
 
@@ -893,9 +871,7 @@ void TQORCalcEngine::MemoryRecall()
 {
     Guarded([&] {
         ShowResult(memory_);
-        ClearToggles();
-        AddToHistory(rsMemRecPaper(), false);
-        MemoryLine();
+        MemoryLine(rsMemRecPaper());
         lastOperator_ = ocNone;
     });
 }
@@ -937,27 +913,20 @@ void TQORCalcEngine::ClearHistory()
     pendingOperatorText_.clear();
 }
 
-void TQORCalcEngine::HistoryStart() { tape_.Start(); }
+namespace {
 
-std::string TQORCalcEngine::GetNextHistoryEntry()
-{
-    const std::string* line = tape_.Next();
-    return line != nullptr ? *line : std::string();
-}
+std::string TextOrEmpty(const std::string* line) { return line ? *line : std::string(); }
+
+} // namespace
+
+std::string TQORCalcEngine::GetNextHistoryEntry() { return TextOrEmpty(tape_.Next()); }
 
 std::string TQORCalcEngine::GetHistoryEntry(std::uint16_t Index) const
 {
-    const std::string* line = tape_.At(Index);
-    return line ? *line : std::string();
+    return TextOrEmpty(tape_.At(Index));
 }
 
-std::string TQORCalcEngine::GetLastHistoryEntry() const
-{
-    const std::string* line = tape_.Last();
-    return line ? *line : std::string();
-}
-
-std::int32_t TQORCalcEngine::GetHistoryLength() const noexcept { return tape_.Length(); }
+std::string TQORCalcEngine::GetLastHistoryEntry() const { return TextOrEmpty(tape_.Last()); }
 
 // ---- Named keys ----------------------------------------------------------------------------
 

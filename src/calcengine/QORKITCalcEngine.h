@@ -47,7 +47,7 @@ public:
     void AllClear(); // AC: stacks, entry, error and tape; memory is kept
     void InputValue(Extended Value); // a whole operand, written to the tape
     void InputString(std::string_view S); // a whole operand as text, not written to the tape
-    void UseConstant(Extended Value); // a constant key: the same as InputValue
+    void UseConstant(Extended Value) { InputValue(Value); } // a constant key
 
     // The shared entry step behind digits and signs; hosts call the Input operations.
     void Numeric(char Ch);
@@ -78,15 +78,15 @@ public:
 
     // ---- Operators, brackets, equals and percent -------------------------------------------
 
-    void DoAdd();
-    void DoSubtract();
-    void DoMultiply();
-    void DoDivide();
-    void DoPower(); // x ^ y; with Inv x ^ 1/y
-    void DoModulus();
-    void DoRemainder();
-    void DoDiv();
-    void DoIntDiv();
+    void DoAdd() { Arithmetic(engine_internal::ocAdd); }
+    void DoSubtract() { Arithmetic(engine_internal::ocSubtract); }
+    void DoMultiply() { Arithmetic(engine_internal::ocMultiply); }
+    void DoDivide() { Arithmetic(engine_internal::ocDivide); }
+    void DoPower() { Arithmetic(isInv_ ? engine_internal::ocRoot : engine_internal::ocPower); }
+    void DoModulus() { Arithmetic(engine_internal::ocModulus); }
+    void DoRemainder() { Arithmetic(engine_internal::ocRemainder); }
+    void DoDiv() { Arithmetic(engine_internal::ocDiv); }
+    void DoIntDiv() { Arithmetic(engine_internal::ocIntDiv); }
     void DoPercent();
     void InputLeftBracket();
     void InputRightBracket();
@@ -100,8 +100,7 @@ public:
     // Reduces the top operator once.
     void StackManipulation();
     void PushOperandStack(Extended Value);
-    void PushOperatorStack(char Op);
-    // Number of operands and pending operators on the stacks.
+    void PushOperatorStack(char Op) { operators_.Push(Op); }
     int GetOperandCount() const noexcept { return operands_.Count(); }
     int GetOperatorCount() const noexcept { return operators_.Count(); }
 
@@ -185,11 +184,11 @@ public:
     void AddToHistory(Extended Value);
     void PaperLine();
     void ClearHistory();
-    void HistoryStart();
+    void HistoryStart() { tape_.Start(); }
     std::string GetNextHistoryEntry();
     std::string GetHistoryEntry(std::uint16_t Index) const; // empty beyond the end
     std::string GetLastHistoryEntry() const;
-    std::int32_t GetHistoryLength() const noexcept;
+    std::int32_t GetHistoryLength() const noexcept { return tape_.Length(); }
     // HistoryPosition property: the read cursor, -1 before the first line.
     std::int32_t GetHistoryPosition() const noexcept { return tape_.Position(); }
     void SetHistoryPosition(std::int32_t Value) { tape_.SetPosition(Value); }
@@ -293,7 +292,7 @@ private:
     Extended PostfixArgument();
     Extended Finish(Extended result); // clears the toggles, checks the result
     void MemoryStep(int sign, const std::string& label);
-    void MemoryLine();
+    void MemoryLine(const std::string& key);
 
     std::string entryStr_;
     std::string displayStr_;
