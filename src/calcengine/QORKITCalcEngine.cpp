@@ -1006,38 +1006,26 @@ constexpr TQORCalcKey KeyTable[] = {
 };
 #undef QORKIT_KEY
 
-const TQORCalcKey* FindKey(std::string_view name)
-{
-    for (const auto& key : KeyTable)
-        if (key.Name == name)
-            return &key;
-    return nullptr;
-}
-
-bool AllOf(std::string_view s, std::string_view allowed)
-{
-    return !s.empty() && s.find_first_not_of(allowed) == std::string_view::npos;
-}
-
 } // namespace
 
 std::span<const TQORCalcKey> CalcEngineKeys() { return KeyTable; }
 
 bool PressCalcKey(TQORCalcEngine& engine, std::string_view name)
 {
-    if (const auto* key = FindKey(name)) {
+    if (const auto* key = FindName(KeyTable, name)) {
         key->Press(engine);
         return true;
     }
-    if (name.starts_with("round") && AllOf(name.substr(5), "0123456789") && name.size() <= 7) {
-        engine.DoRound(std::stoi(std::string(name.substr(5))));
+    if (std::int32_t places = 0;
+        name.starts_with("round") && ReadCount(name.substr(5), 2, places)) {
+        engine.DoRound(places);
         return true;
     }
     // A number: each character is its own key.
-    if (!AllOf(name, "0123456789.,"))
+    if (name.empty() || name.find_first_not_of("0123456789.,") != std::string_view::npos)
         return false;
     for (const char c : name)
-        FindKey(std::string_view(&c, 1))->Press(engine);
+        FindName(KeyTable, std::string_view(&c, 1))->Press(engine);
     return true;
 }
 

@@ -95,6 +95,19 @@ template<class Row, std::size_t N> const Row* FindCode(const Row (&table)[N], ch
     return nullptr;
 }
 
+// The row of a table whose Name is `name`, or nullptr.
+template<class Row, std::size_t N>
+const Row* FindName(const Row (&table)[N], std::string_view name) noexcept
+{
+    for (const Row& row : table)
+        if (row.Name == name)
+            return &row;
+    return nullptr;
+}
+
+// The count of a named key ("round2", "SHL 4"): 1 to maxDigits decimal digits, nothing else.
+bool ReadCount(std::string_view text, std::size_t maxDigits, std::int32_t& count) noexcept;
+
 // Calls an engine's event handler when one is assigned.
 template<class Handler, class Sender> void Fire(const Handler& handler, Sender* sender)
 {

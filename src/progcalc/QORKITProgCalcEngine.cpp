@@ -1231,23 +1231,19 @@ bool PressProgKey(IQORProgCalcEngine& engine, std::string_view name)
         engine.InputDigit(static_cast<char>(std::toupper(static_cast<unsigned char>(name[0]))));
         return true;
     }
-    for (const auto& key : kProgKeys) {
-        if (key.Name == name) {
-            key.Press(engine);
-            return true;
-        }
+    if (const auto* key = FindName(kProgKeys, name)) {
+        key->Press(engine);
+        return true;
     }
+    // A counted key alone moves one bit.
     const std::string_view word = name.substr(0, name.find(' '));
-    const std::string_view count = name.size() > word.size() ? name.substr(word.size() + 1) : "1";
-    const bool digits = !count.empty() && count.size() <= 9
-        && count.find_first_not_of("0123456789") == std::string_view::npos;
-    for (const auto& key : kProgCountedKeys) {
-        if (key.Name == word && digits) {
-            (engine.*(key.Press))(std::stoi(std::string(count)));
-            return true;
-        }
-    }
-    return false;
+    std::int32_t count = 1;
+    const auto* counted = FindName(kProgCountedKeys, word);
+    if (counted == nullptr
+        || (word.size() < name.size() && !ReadCount(name.substr(word.size() + 1), 9, count)))
+        return false;
+    (engine.*(counted->Press))(count);
+    return true;
 }
 
 } // namespace qorkit
