@@ -797,16 +797,10 @@ void TQORCalcEngine::InputRandom()
     UseConstant(RandomExtended());
 }
 
-void TQORCalcEngine::DoInv()
+void TQORCalcEngine::Toggle(bool& toggle)
 {
-    isInv_ = !isInv_;
-    Fire(isInv_ ? onSetToggles_ : onClearToggles_, this);
-}
-
-void TQORCalcEngine::DoHyp()
-{
-    isHyp_ = !isHyp_;
-    Fire(isHyp_ ? onSetToggles_ : onClearToggles_, this);
+    toggle = !toggle;
+    Fire(toggle ? onSetToggles_ : onClearToggles_, this);
 }
 
 void TQORCalcEngine::SetAngleMode(TQORAngleMode Value)

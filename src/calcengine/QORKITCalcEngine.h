@@ -131,8 +131,8 @@ public:
     void InputGravity();
     void InputRandom(); // re-seeds from the clock, then a value in [0, 1)
 
-    void DoInv();
-    void DoHyp();
+    void DoInv() { Toggle(isInv_); }
+    void DoHyp() { Toggle(isHyp_); }
     bool GetIsInv() const noexcept { return isInv_; }
     bool GetIsHyp() const noexcept { return isHyp_; }
 
@@ -275,6 +275,7 @@ public:
 private:
     template<class Body> void Guarded(Body&& body);
     void HandleError(const std::string& message);
+    void Toggle(bool& toggle); // flips Inv or Hyp and tells which way
 
     Extended TypedValue() const; // Str2Float of the entry; raises on malformed text
     std::string ShownValue(Extended Value) const; // DisplayValue, or nothing when quiet

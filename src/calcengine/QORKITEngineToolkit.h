@@ -176,7 +176,6 @@ public:
     T& Top() { return slots_[static_cast<std::size_t>(top_)]; }
     // The item `below` places under the top (0: the top itself).
     T& Below(std::int32_t below) { return slots_[static_cast<std::size_t>(top_ - below)]; }
-    T& Bottom() { return slots_[0]; }
     std::int32_t Count() const noexcept { return top_ + 1; }
     bool Empty() const noexcept { return top_ < 0; }
 

@@ -816,7 +816,7 @@ void TQORProgCalcEngine::DoResult()
             if (Shown().find(rsErrorMsg()) == std::string::npos)
                 SetDisplayValue0();
         } else {
-            ConvertValues(operands_.Bottom());
+            ConvertValues(operands_.Top()); // the only operand left
         }
     });
 }

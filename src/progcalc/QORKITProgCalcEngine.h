@@ -295,7 +295,6 @@ private:
     void PushOperandStack(std::int64_t v) { operands_.Push(v); }
     void PushOperatorStack(char ch) { operators_.Push(ch); }
 
-    // Helpers of the steps above.
     template<class Fn> void UnaryKey(Fn&& compute, const std::string& historyLine);
     void ShiftKey(std::int64_t (*compute)(std::int64_t, int bits, int count),
                   const std::string& word, std::int32_t count);

@@ -8,6 +8,7 @@
 #include <new>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace qorkit::engine_internal {
@@ -56,7 +57,7 @@ TEST(EvalStack, GrowsPastItsFirstSlotsAndKeepsOrder)
     EXPECT_EQ(stack.Pop(), 39);
     stack.KeepTopOnly();
     EXPECT_EQ(stack.Count(), 1);
-    EXPECT_EQ(stack.Bottom(), 38);
+    EXPECT_EQ(stack.Top(), 38);
     stack.Clear();
     EXPECT_TRUE(stack.Empty());
 }
@@ -165,6 +166,48 @@ TEST(OpCodes, TightOperatorsWaitOnlyForAddAndMultiplyLevels)
     EXPECT_FALSE(BindsTighter(ocPower, ocModulus, multiplicative, tight));
     EXPECT_FALSE(BindsTighter(ocPower, ocPower, multiplicative, tight));
     EXPECT_FALSE(BindsTighter(ocAdd, ocMultiply, multiplicative, tight));
+}
+
+struct CountCase {
+    const char* name;
+    const char* text;
+    std::size_t maxDigits;
+    bool accepted;
+    std::int32_t count; // 7 stays when the text is refused
+};
+
+class KeyCount : public testing::TestWithParam<CountCase> { };
+
+TEST_P(KeyCount, AcceptsOnlyPlainDigitsUpToTheLimit)
+{
+    std::int32_t count = 7;
+    EXPECT_EQ(ReadCount(GetParam().text, GetParam().maxDigits, count), GetParam().accepted);
+    EXPECT_EQ(count, GetParam().count);
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, KeyCount,
+                         testing::Values(CountCase {"OneDigit", "4", 2, true, 4},
+                                         CountCase {"AtTheLimit", "123456789", 9, true, 123456789},
+                                         CountCase {"LeadingZeros", "007", 3, true, 7},
+                                         CountCase {"PastTheLimit", "123", 2, false, 7},
+                                         CountCase {"Empty", "", 2, false, 7},
+                                         CountCase {"Signed", "-4", 2, false, 7},
+                                         CountCase {"PlusSign", "+4", 2, false, 7},
+                                         CountCase {"TrailingBlank", "4 ", 2, false, 7},
+                                         CountCase {"Letter", "4x", 2, false, 7}),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST(NamedRows, FindNameReturnsTheRowOrNull)
+{
+    struct Row {
+        std::string_view Name;
+        int Value;
+    };
+    constexpr Row rows[] = {{"SHL", 1}, {"SHR", 2}};
+    ASSERT_NE(FindName(rows, "SHR"), nullptr);
+    EXPECT_EQ(FindName(rows, "SHR")->Value, 2);
+    EXPECT_EQ(FindName(rows, "shr"), nullptr);
+    EXPECT_EQ(FindName(rows, "SH"), nullptr);
 }
 
 } // namespace
