@@ -838,13 +838,7 @@ void TQORCalcEngine::MemoryStep(int sign, const std::string& label)
 {
     Guarded([&] {
         DoResult(); // the pending calculation is completed first
-        Extended operand = 0;
-        if (!entryStr_.empty()) {
-            operand = TypedValue();
-            AddToHistory(operand);
-        } else if (!operands_.Empty()) {
-            operand = operands_.Top();
-        }
+        const Extended operand = PostfixArgument();
         memory_ = CheckFloat(memory_ + static_cast<Extended>(sign) * operand);
         MemoryLine(label);
         Fire(onMemoryChange_, this);

@@ -290,7 +290,7 @@ private:
     void ApplyFunction(char code);
     // A function code, or percent while it is unary: applied to the top operand alone.
     bool IsUnary(char code) const;
-    Extended PostfixArgument();
+    Extended PostfixArgument(); // the typed number (put on the tape), else the top operand
     Extended Finish(Extended result); // clears the toggles, checks the result
     void MemoryStep(int sign, const std::string& label);
     void MemoryLine(const std::string& key);
