@@ -716,8 +716,11 @@ void TQORProgCalcEngine::AllClear()
 {
     operands_.Clear();
     operators_.Clear();
-    ClearDisplay();
+    ClearEntry();
+    value_ = 0;
+    SetDisplayValue0();
     lastError_.clear();
+    lastKey_ = ocNone;
     ClearHistory();
 }
 
