@@ -211,6 +211,18 @@ void FitCaption(QToolButton* key, const QFont& base, TCaptionFits& fits)
 
 // A calculator key: a tool button whose size the key grid fixes. Once fixed, that size is its
 // size hint, so laying the grid out does not measure the caption and icon it overrides anyway.
+// Sets the value kept for `key` in a short list of pairs, adding the pair the first time.
+template<class Key, class Value>
+void Keep(std::vector<std::pair<Key, Value>>& pairs, Key key, const Value& value)
+{
+    const auto known = std::find_if(pairs.begin(), pairs.end(),
+                                    [key](const auto& pair) { return pair.first == key; });
+    if (known != pairs.end())
+        known->second = value;
+    else
+        pairs.emplace_back(key, value);
+}
+
 // A library text as a QString. The built-in English texts never change, so while no
 // translation hook is installed each is converted once per process; with a hook installed
 // every call asks the hook again (translators may come and go at any time).
@@ -524,12 +536,7 @@ void TQORCalcFormBase::LayoutPanels(int rows, int extraHeight)
 
 void TQORCalcFormBase::PlaceChild(QWidget* child, const QRect& place)
 {
-    const auto known = std::find_if(places_.begin(), places_.end(),
-                                    [child](const auto& row) { return row.first == child; });
-    if (known != places_.end())
-        known->second = place;
-    else
-        places_.emplace_back(child, place);
+    Keep(places_, child, place);
     child->setGeometry(QStyle::visualRect(layoutDirection(), rect(), place));
 }
 
@@ -743,12 +750,7 @@ void TQORCalcFormBase::SetDisplayFont(const QFont& font)
 
 void TQORCalcFormBase::ShowFitted(TQORBasePanel* panel, const QString& text)
 {
-    const auto known = std::find_if(fittedTexts_.begin(), fittedTexts_.end(),
-                                    [panel](const auto& entry) { return entry.first == panel; });
-    if (known != fittedTexts_.end())
-        known->second = text;
-    else
-        fittedTexts_.emplace_back(panel, text);
+    Keep(fittedTexts_, panel, text);
 
     const QRect room = panel->contentsRect().adjusted(
         panel->margin(), panel->margin(), -panel->margin() - panel->indent() - 1, -panel->margin());
