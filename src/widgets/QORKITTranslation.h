@@ -34,10 +34,10 @@ QORKIT_WIDGETS_EXPORT void InstallQtTranslationHook();
 // translations built into the library (":/qorkit/i18n"), then in the install directory
 // (PREFIX/share/qorkit/translations), then in ../share/qorkit/translations from the
 // application's folder (an installed prefix moved elsewhere), then in "translations" beside
-// the application. It also
-// installs the translation hook. A translation loaded by an earlier call is removed first, so
-// switching languages works; English needs no file and gives false. Number formats are not
-// touched: call SyncFormatSettingsFromLocale() for those. Needs a QCoreApplication.
+// the application. It also installs the translation hook. A translation loaded by an earlier
+// call is removed first, so switching languages works; English needs no file and gives false.
+// Number formats are not touched: call SyncFormatSettingsFromLocale() for those. Needs a
+// QCoreApplication.
 //   qorkit::LoadTranslation(QLocale(QStringLiteral("de_DE")));
 QORKIT_WIDGETS_EXPORT bool LoadTranslation(const QLocale& locale = QLocale());
 
