@@ -64,6 +64,35 @@ template<class Front, class Engine, void (Front::*Signal)()> void Emit(Front& fr
     (front.*Signal)();
 }
 
+// A line was added: the tape changed.
+template<class Front> void TapeGrew(Front& front, dialogs_internal::TTapeWatch& watch)
+{
+    watch.Known = front.GetTapeCount();
+    Q_EMIT front.historyChange();
+    Q_EMIT front.tapeChanged();
+}
+
+// The display changed. An all-clear empties the tape after its last display event and says
+// nothing of it, so the length is looked at again once the engine's operation is over.
+template<class Front> void WatchTape(Front& front, dialogs_internal::TTapeWatch& watch)
+{
+    Q_EMIT front.displayChange();
+    if (watch.Known == 0 || watch.CheckPosted)
+        return;
+    watch.CheckPosted = true;
+    QMetaObject::invokeMethod(
+        &front,
+        [&front, &watch] {
+            watch.CheckPosted = false;
+            const int count = front.GetTapeCount();
+            if (count < watch.Known) {
+                watch.Known = count;
+                Q_EMIT front.tapeChanged();
+            }
+        },
+        Qt::QueuedConnection);
+}
+
 // One event slot of an engine and what the front does on it.
 template<class Front, class Engine, class Getter> struct TEventSlot {
     Getter Get;
@@ -111,8 +140,10 @@ struct TQORCalcEngineObject::TEvents {
     using F = TQORCalcEngineObject;
     using E = TQORCalcEngine;
     static constexpr TSlot Slots[] = {
-        {&E::GetOnDisplayChange, &E::SetOnDisplayChange, &Emit<F, E, &F::displayChange>},
-        {&E::GetOnHistoryChange, &E::SetOnHistoryChange, &Emit<F, E, &F::historyChange>},
+        {&E::GetOnDisplayChange, &E::SetOnDisplayChange,
+         [](F& f, E*) { WatchTape(f, f.tapeWatch_); }},
+        {&E::GetOnHistoryChange, &E::SetOnHistoryChange,
+         [](F& f, E*) { TapeGrew(f, f.tapeWatch_); }},
         {&E::GetOnError, &E::SetOnError, &Emit<F, E, &F::error>},
         {&E::GetOnMemoryChange, &E::SetOnMemoryChange,
          [](F& f, E* e) {
@@ -222,8 +253,10 @@ struct TQORProgCalcEngineObject::TEvents {
     using F = TQORProgCalcEngineObject;
     using E = IQORProgCalcEngine;
     static constexpr TSlot Slots[] = {
-        {&E::GetOnDisplayChange, &E::SetOnDisplayChange, &Emit<F, E, &F::displayChange>},
-        {&E::GetOnHistoryChange, &E::SetOnHistoryChange, &Emit<F, E, &F::historyChange>},
+        {&E::GetOnDisplayChange, &E::SetOnDisplayChange,
+         [](F& f, E*) { WatchTape(f, f.tapeWatch_); }},
+        {&E::GetOnHistoryChange, &E::SetOnHistoryChange,
+         [](F& f, E*) { TapeGrew(f, f.tapeWatch_); }},
         {&E::GetOnError, &E::SetOnError, &Emit<F, E, &F::error>},
         {&E::GetOnMemoryChange, &E::SetOnMemoryChange,
          [](F& f, E* e) {
@@ -233,20 +266,20 @@ struct TQORProgCalcEngineObject::TEvents {
         // The tape shows its lines in today's base and spacing: these rewrite it.
         {&E::GetOnBaseDisplayChange, &E::SetOnBaseDisplayChange,
          [](F& f, E* e) {
-             f.tape_.MarkRewritten();
              Q_EMIT f.baseDisplayChange();
              SignalIfChanged(&f, f.baseDisplay_, e->GetBaseDisplay(), &F::baseDisplayChanged);
+             f.TapeRewritten();
          }},
         {&E::GetOnBitSizeChange, &E::SetOnBitSizeChange,
          [](F& f, E* e) {
-             f.tape_.MarkRewritten();
              Q_EMIT f.bitSizeChange();
              SignalIfChanged(&f, f.bitSize_, e->GetBitSize(), &F::bitSizeChanged);
+             f.TapeRewritten();
          }},
         {&E::GetOnSpacingChange, &E::SetOnSpacingChange,
          [](F& f, E*) {
-             f.tape_.MarkRewritten();
              Q_EMIT f.spacingChange();
+             f.TapeRewritten();
          }},
         {&E::GetOnSizeChangeChange, &E::SetOnSizeChangeChange, &Emit<F, E, &F::sizeChangeChange>},
     };
@@ -332,6 +365,13 @@ void TQORProgCalcEngineObject::SetMemory(qint64 value)
 bool TQORProgCalcEngineObject::PressKey(const QString& name)
 {
     return PressProgKey(*engine_, name.toStdString());
+}
+
+void TQORProgCalcEngineObject::TapeRewritten()
+{
+    tape_.MarkRewritten();
+    if (GetTapeCount() > 0)
+        Q_EMIT tapeChanged();
 }
 
 } // namespace qorkit

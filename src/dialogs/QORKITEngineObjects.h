@@ -50,6 +50,13 @@ private:
     bool rewritten_ = false;
 };
 
+// What a front knows of its engine's tape length, to notice a tape emptied without a line
+// event: the engines clear the tape after their last display event of an all-clear.
+struct TTapeWatch {
+    int Known = 0; // lines at the last event
+    bool CheckPosted = false;
+};
+
 } // namespace dialogs_internal
 
 class QORKIT_WIDGETS_EXPORT TQORCalcEngineObject : public QObject {
@@ -61,7 +68,7 @@ class QORKIT_WIDGETS_EXPORT TQORCalcEngineObject : public QObject {
                    angleModeChanged)
     Q_PROPERTY(double Memory READ GetMemory WRITE SetMemory NOTIFY memoryChanged)
     Q_PROPERTY(QString MemoryText READ GetMemoryText NOTIFY memoryChange)
-    Q_PROPERTY(QStringList Tape READ GetTape NOTIFY historyChange)
+    Q_PROPERTY(QStringList Tape READ GetTape NOTIFY tapeChanged)
     Q_PROPERTY(QString LastError READ GetLastError NOTIFY error)
     Q_PROPERTY(bool Inv READ GetInv NOTIFY togglesChange)
     Q_PROPERTY(bool Hyp READ GetHyp NOTIFY togglesChange)
@@ -124,6 +131,9 @@ Q_SIGNALS:
     void decimalPlacesChanged(int decimalPlaces);
     void angleModeChanged(qorkit::TQORAngleMode angleMode);
     void memoryChanged(double memory);
+    // The tape changed: a line was added (with historyChange), or it was emptied (noticed
+    // once control is back in the event loop, as the engine raises no event for that).
+    void tapeChanged();
 
 private:
     struct TEvents; // the engine's event slots and what the front does on each
@@ -134,6 +144,7 @@ private:
     TQORAngleMode angleMode_;
     Extended memory_;
     mutable dialogs_internal::TTapeCache tape_;
+    dialogs_internal::TTapeWatch tapeWatch_;
 };
 
 class QORKIT_WIDGETS_EXPORT TQORProgCalcEngineObject : public QObject {
@@ -144,7 +155,7 @@ class QORKIT_WIDGETS_EXPORT TQORProgCalcEngineObject : public QObject {
     Q_PROPERTY(qorkit::TQORBitSize BitSize READ GetBitSize WRITE SetBitSize NOTIFY bitSizeChanged)
     Q_PROPERTY(qint64 Memory READ GetMemory WRITE SetMemory NOTIFY memoryChanged)
     Q_PROPERTY(QString MemoryText READ GetMemoryText NOTIFY memoryChange)
-    Q_PROPERTY(QStringList Tape READ GetTape NOTIFY historyChange)
+    Q_PROPERTY(QStringList Tape READ GetTape NOTIFY tapeChanged)
     Q_PROPERTY(QString LastError READ GetLastError NOTIFY error)
 
 public:
@@ -198,6 +209,9 @@ Q_SIGNALS:
     void baseDisplayChanged(qorkit::TQORBaseDisplay baseDisplay);
     void bitSizeChanged(qorkit::TQORBitSize bitSize);
     void memoryChanged(qint64 memory);
+    // As on the floating-point front; also when a base, size or spacing change rewrites the
+    // tape's lines.
+    void tapeChanged();
 
 private:
     struct TEvents;
@@ -208,6 +222,9 @@ private:
     TQORBitSize bitSize_;
     std::int64_t memory_;
     mutable dialogs_internal::TTapeCache tape_;
+    dialogs_internal::TTapeWatch tapeWatch_;
+    // The tape's lines show in today's base, size and spacing: a change of those rewrites it.
+    void TapeRewritten();
 };
 
 } // namespace qorkit

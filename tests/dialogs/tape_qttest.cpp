@@ -282,6 +282,34 @@ TEST_F(TapeModelTest, TwoModelsShareTheEnginesFrontAndOutliveEachOther)
     EXPECT_NE(TQORCalcEngineObject::FrontOf(engine), nullptr);
 }
 
+// The fronts' Tape property tells of every change: a line, an all-clear (which the engines
+// announce with no tape event), and on the programmer's front a rewrite in another base.
+TEST_F(TapeModelTest, TapePropertyNotifiesLinesClearsAndRewrites)
+{
+    TQORCalcEngineObject calc;
+    QSignalSpy calcTape(&calc, &TQORCalcEngineObject::tapeChanged);
+    calc.GetEngine().InputValue(7);
+    EXPECT_EQ(calcTape.count(), 1);
+    calc.PressKey(QStringLiteral("ac"));
+    ASSERT_TRUE(calcTape.wait(1000));
+    EXPECT_EQ(calcTape.count(), 2);
+    EXPECT_TRUE(calc.GetTape().isEmpty());
+    calc.PressKey(QStringLiteral("c")); // nothing on the tape to lose: no signal
+    QCoreApplication::processEvents();
+    EXPECT_EQ(calcTape.count(), 2);
+
+    TQORProgCalcEngineObject prog;
+    QSignalSpy progTape(&prog, &TQORProgCalcEngineObject::tapeChanged);
+    prog.GetEngine().InputValue(255);
+    prog.SetBaseDisplay(bdBinary); // rewrites the line, then adds the base's line
+    EXPECT_GE(progTape.count(), 3);
+    const int before = static_cast<int>(progTape.count());
+    prog.PressKey(QStringLiteral("AC"));
+    ASSERT_TRUE(progTape.wait(1000));
+    EXPECT_EQ(progTape.count(), before + 1);
+    EXPECT_EQ(prog.GetTapeCount(), 0);
+}
+
 TEST_F(TapeModelTest, AFrontKeepsTheHostsHandlersAndGivesThemBack)
 {
     TQORProgCalcEngine engine;
