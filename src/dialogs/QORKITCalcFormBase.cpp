@@ -223,43 +223,37 @@ void Keep(std::vector<std::pair<Key, Value>>& pairs, Key key, const Value& value
         pairs.emplace_back(key, value);
 }
 
-// A library text as a QString. The built-in English texts never change, so while no
-// translation hook is installed each is converted once per process; with a hook installed
-// every call asks the hook again (translators may come and go at any time).
-QString LibraryText(TQORTextFn text)
+// What `make` makes of library texts, by `key`. The built-in English texts never change, so
+// while no translation hook is installed each is made once per process (one store per use);
+// with a hook installed every call makes it again (translators may come and go at any time).
+template<class Key, class Make> auto MadeOnce(const Key& key, Make make)
 {
     if (HasTranslationHook())
-        return ToQString(text());
-    static std::unordered_map<TQORTextFn, QString> converted;
-    auto [known, made] = converted.try_emplace(text);
-    if (made)
-        known->second = ToQString(text());
+        return make();
+    static std::unordered_map<Key, decltype(make())> made;
+    auto known = made.find(key);
+    if (known == made.end())
+        known = made.emplace(key, make()).first;
     return known->second;
 }
 
-// A key's accessible name and description, by its object name, the same way.
+QString LibraryText(TQORTextFn text)
+{
+    return MadeOnce(text, [text] { return ToQString(text()); });
+}
+
+// A key's accessible name and description, by its object name.
 struct TKeyAccessTexts {
     QString Name;
     QString Description;
 };
 
-TKeyAccessTexts MakeKeyAccessTexts(std::string_view key, bool programmers)
+TKeyAccessTexts KeyAccessTexts(std::string_view key, bool programmers)
 {
-    return {ToQString(KeyAccessibleName(key, programmers)),
-            ToQString(KeyAccessibleDescription(key, programmers))};
-}
-
-const TKeyAccessTexts& KeyAccessTexts(std::string_view key, bool programmers)
-{
-    static TKeyAccessTexts translated;
-    if (HasTranslationHook())
-        return translated = MakeKeyAccessTexts(key, programmers);
-    static std::unordered_map<std::string, TKeyAccessTexts> converted[2]; // by `programmers`
-    auto& texts = converted[programmers ? 1 : 0];
-    auto known = texts.find(std::string(key));
-    if (known == texts.end())
-        known = texts.emplace(std::string(key), MakeKeyAccessTexts(key, programmers)).first;
-    return known->second;
+    return MadeOnce(std::string(key) + (programmers ? "/programmer's" : ""), [=] {
+        return TKeyAccessTexts {ToQString(KeyAccessibleName(key, programmers)),
+                                ToQString(KeyAccessibleDescription(key, programmers))};
+    });
 }
 
 // The form previews what reaches a key (typed keys, presses) itself, without an event filter
@@ -360,7 +354,7 @@ void TQORCalcFormBase::ApplyKeyTexts(const KeyText& key) const
         if (button->toolTip() != hint)
             button->setToolTip(hint);
     }
-    const TKeyAccessTexts& texts = KeyAccessTexts(key.Look.Name, ProgrammersKeys());
+    const TKeyAccessTexts texts = KeyAccessTexts(key.Look.Name, ProgrammersKeys());
     if (button->accessibleName() != texts.Name)
         button->setAccessibleName(texts.Name);
     if (button->accessibleDescription() != texts.Description)
