@@ -73,11 +73,12 @@ template<class Front> void TapeGrew(Front& front, dialogs_internal::TTapeWatch& 
 }
 
 // The display changed. An all-clear empties the tape after its last display event and says
-// nothing of it, so the length is looked at again once the engine's operation is over.
+// nothing of it, and a host that takes the engine's tape event over leaves lines unannounced,
+// so the length is looked at again once the engine's operation is over.
 template<class Front> void WatchTape(Front& front, dialogs_internal::TTapeWatch& watch)
 {
     Q_EMIT front.displayChange();
-    if (watch.Known == 0 || watch.CheckPosted)
+    if (watch.CheckPosted || (watch.Known == 0 && front.GetTapeCount() == 0))
         return;
     watch.CheckPosted = true;
     QMetaObject::invokeMethod(
@@ -85,7 +86,7 @@ template<class Front> void WatchTape(Front& front, dialogs_internal::TTapeWatch&
         [&front, &watch] {
             watch.CheckPosted = false;
             const int count = front.GetTapeCount();
-            if (count < watch.Known) {
+            if (count != watch.Known) {
                 watch.Known = count;
                 Q_EMIT front.tapeChanged();
             }
@@ -186,6 +187,7 @@ TQORCalcEngineObject::TQORCalcEngineObject(TQORCalcEngine& engine, QObject* pare
       angleMode_(engine.GetAngleMode()), memory_(engine.GetMemoryValue())
 {
     TakeSlots(*this, engine, TEvents::Slots);
+    tapeWatch_.Known = GetTapeCount(); // an engine may come with a tape
 }
 
 TQORCalcEngineObject::~TQORCalcEngineObject()
@@ -296,6 +298,7 @@ TQORProgCalcEngineObject::TQORProgCalcEngineObject(IQORProgCalcEngine& engine, Q
       bitSize_(engine.GetBitSize()), memory_(engine.GetMemoryValue())
 {
     TakeSlots(*this, engine, TEvents::Slots);
+    tapeWatch_.Known = GetTapeCount(); // an engine may come with a tape
 }
 
 TQORProgCalcEngineObject::~TQORProgCalcEngineObject()

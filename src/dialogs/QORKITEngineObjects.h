@@ -50,8 +50,9 @@ private:
     bool rewritten_ = false;
 };
 
-// What a front knows of its engine's tape length, to notice a tape emptied without a line
-// event: the engines clear the tape after their last display event of an all-clear.
+// What a front knows of its engine's tape length, to notice a tape changed without a line
+// event: the engines clear the tape after their last display event of an all-clear, and a
+// host may take the engine's tape event over.
 struct TTapeWatch {
     int Known = 0; // lines at the last event
     bool CheckPosted = false;
@@ -131,8 +132,9 @@ Q_SIGNALS:
     void decimalPlacesChanged(int decimalPlaces);
     void angleModeChanged(qorkit::TQORAngleMode angleMode);
     void memoryChanged(double memory);
-    // The tape changed: a line was added (with historyChange), or it was emptied (noticed
-    // once control is back in the event loop, as the engine raises no event for that).
+    // The tape changed: a line was added (with historyChange), or it was emptied or lines
+    // came while a host held the engine's tape event (noticed once control is back in the
+    // event loop, as the engine raises no tape event for those).
     void tapeChanged();
 
 private:

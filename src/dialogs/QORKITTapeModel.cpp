@@ -42,21 +42,15 @@ template<class Front> void TQORTapeModel::Follow(Front& front)
     front_ = &front;
     readTape_ = [&front]() -> const QStringList& { return front.ReadTape(); };
     generation_ = [&front] { return front.GetTapeGeneration(); };
-    std::vector<void (Front::*)()> later {&Front::displayChange, &Front::error,
-                                          &Front::memoryChange};
-    if constexpr (std::is_same_v<Front, TQORProgCalcEngineObject>) {
+    if constexpr (std::is_same_v<Front, TQORProgCalcEngineObject>)
         makeReader_
             = [&front] { return ProgTapeReader(front.GetBaseDisplay(), front.GetBitSize()); };
-        later.insert(later.end(),
-                     {&Front::baseDisplayChange, &Front::bitSizeChange, &Front::spacingChange});
-    } else {
+    else
         makeReader_ = [] { return TQORTapeReader(); };
-    }
     connect(&front, &Front::historyChange, this, &TQORTapeModel::Sync);
-    // All clear empties the tape without a tape event, before its display event: look again
-    // once the key is done.
-    for (const auto signal : later)
-        connect(&front, signal, this, &TQORTapeModel::ScheduleSync);
+    // Other tape changes (an all-clear emptied it, a base change rewrote it) are picked up once
+    // the key is done.
+    connect(&front, &Front::tapeChanged, this, &TQORTapeModel::ScheduleSync);
     seenGeneration_ = -1;
     Sync();
 }
