@@ -290,6 +290,11 @@ TQORCalcFormBase::TQORCalcFormBase(QWidget* parent, TQORFormGeometry geometry, Q
     keyTexts_.reserve(64); // the most keys a form has
     setFont(keyFont);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    // Each child resolves the key font against the form's screen. Until the form has a native
+    // window, Qt finds that screen by the form's position every time; with one screen there is
+    // only one answer, so give it now (Qt forgets it once the window is made).
+    if (const auto screens = QGuiApplication::screens(); screens.size() == 1)
+        setScreen(screens.front());
     KeyPanel = new TQORBasePanel(this);
     KeyPanel->setObjectName(QStringLiteral("KeyPanel"));
     KeyPanel->SetBevel(bvNone);
