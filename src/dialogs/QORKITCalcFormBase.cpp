@@ -11,7 +11,6 @@
 #include <QClipboard>
 #include <QFontInfo>
 #include <QFontMetricsF>
-#include <QGridLayout>
 #include <QKeyEvent>
 #include <QListView>
 #include <QMimeData>
@@ -489,33 +488,25 @@ void TQORCalcFormBase::UpdateTabOrder()
 void TQORCalcFormBase::LayOutGrid(const std::vector<TGridCell>& cells, int rows)
 {
     // Every cell of the grid is one key wide and high, with no gaps: at the form's own scale
-    // the keys stand where the cells are, mirrored when the form reads right to left.
+    // the keys stand where the cells are, mirrored when the form reads right to left. Cells and
+    // keys have fixed sizes, so the keys are placed directly (a layout would only measure them
+    // again); a form not shown yet has its keys in place too.
     const int w = geometry_.KeyWidth;
     const int h = geometry_.KeyHeight;
-    delete KeyPanel->layout(); // the keys stay; the small calculator moves them
-    auto* grid = new QGridLayout(KeyPanel);
-    grid->setObjectName(QStringLiteral("KeyGrid"));
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setSpacing(0);
-    for (int col = 0; col < geometry_.Columns; ++col)
-        grid->setColumnMinimumWidth(col, w);
-    for (int row = 0; row < rows; ++row)
-        grid->setRowMinimumHeight(row, h);
+    KeyPanel->setFixedSize(geometry_.Columns * w, rows * h);
     for (auto* button : KeyPanel->findChildren<QToolButton*>(Qt::FindDirectChildrenOnly)) {
         const bool placed
             = std::any_of(cells.begin(), cells.end(),
                           [button](const TGridCell& cell) { return cell.Widget == button; });
         if (!placed)
-            button->hide();
+            button->hide(); // the small calculator leaves some keys out
     }
     for (const auto& cell : cells) {
         cell.Widget->setFixedSize(cell.Span * w, h);
-        grid->addWidget(cell.Widget, cell.Row, cell.Col, 1, cell.Span);
+        PlaceChild(cell.Widget, QRect(cell.Col * w, cell.Row * h, cell.Span * w, h));
         if (cell.Widget->isHidden())
             cell.Widget->show();
     }
-    KeyPanel->setFixedSize(geometry_.Columns * w, rows * h);
-    grid->activate(); // a form not shown yet has its keys in place too
     keysLaidOut_ = true;
     FitKeyCaptions();
 }
@@ -536,13 +527,19 @@ void TQORCalcFormBase::LayoutPanels(int rows, int extraHeight)
 void TQORCalcFormBase::PlaceChild(QWidget* child, const QRect& place)
 {
     Keep(places_, child, place);
-    child->setGeometry(QStyle::visualRect(layoutDirection(), rect(), place));
+    PlaceMirrored(child, place);
+}
+
+void TQORCalcFormBase::PlaceMirrored(QWidget* child, const QRect& place)
+{
+    const QWidget* parent = child->parentWidget();
+    child->setGeometry(QStyle::visualRect(parent->layoutDirection(), parent->rect(), place));
 }
 
 void TQORCalcFormBase::MirrorChildren()
 {
     for (const auto& [child, place] : places_)
-        child->setGeometry(QStyle::visualRect(layoutDirection(), rect(), place));
+        PlaceMirrored(child, place);
 }
 
 void TQORCalcFormBase::SetFormSize(int width, int height)
@@ -659,6 +656,8 @@ bool TQORCalcFormBase::PreviewChar(QKeyEvent* event, char ch)
 
 bool TQORCalcFormBase::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == KeyPanel && event->type() == QEvent::LayoutDirectionChange)
+        MirrorChildren(); // the key panel alone turned: its keys follow
     if (event->type() == QEvent::MouseButtonPress && qobject_cast<QToolButton*>(watched) != nullptr
         && watched->parent() == KeyPanel) {
         // A click on a key must not leave the focus in the spin edit or a list: typing goes on

@@ -286,9 +286,11 @@ protected:
     void SetPanelText(TQORBasePanel* panel, const QString& text, bool fitted = false);
     // The form's size without the tape (the tape adds its width when shown).
     void SetFormSize(int width, int height);
-    // Puts a child of the form at `place`, given as laid out left to right; a form that reads
-    // right to left shows it mirrored (and the tape on the left).
+    // Puts a child of the form, or a key of the key panel, at `place` in its parent, given as
+    // laid out left to right; a parent that reads right to left shows it mirrored (the tape on
+    // the left of the form, the first column of keys on the right of the panel).
     void PlaceChild(QWidget* child, const QRect& place);
+    static void PlaceMirrored(QWidget* child, const QRect& place);
     // Gives the form its tape (made after the engine's own handlers are set); the view is made
     // by the first SetShowTape(true).
     void SetTapeModel(TQORTapeModel* model);
@@ -339,7 +341,7 @@ private:
     QString defaultTitle_; // the caption UpdateLanguage gave
     QFont displayFont_; // of both panels, before any fitting
     std::vector<std::pair<TQORBasePanel*, QString>> fittedTexts_;
-    std::vector<std::pair<QWidget*, QRect>> places_; // children placed by PlaceChild
+    std::vector<std::pair<QWidget*, QRect>> places_; // widgets placed by PlaceChild
     TQORTapeModel* tapeModel_ = nullptr;
     int formWidth_ = 0;
     int formHeight_ = 0;
