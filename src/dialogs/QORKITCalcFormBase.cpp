@@ -837,7 +837,8 @@ void TQORCalcFormBase::showEvent(QShowEvent* event)
         if (position_ == poMainFormCenter && host != nullptr && host != this) {
             area = host->frameGeometry();
         } else if (position_ == poScreenCenter || position_ == poMainFormCenter) {
-            QScreen* screen = QGuiApplication::primaryScreen();
+            // The screen of the window that opened the form, else the primary one.
+            QScreen* screen = host != nullptr ? host->screen() : QGuiApplication::primaryScreen();
             area = screen != nullptr ? screen->availableGeometry() : QRect();
         }
         // The window frame is centred, as far as the window system has told its size.

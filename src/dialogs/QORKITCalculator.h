@@ -87,7 +87,7 @@ using TQORCalcExecutePosEvent = TQORCalculator::TExecutePosEvent;
 // Shows the standard calculator with the saved angle mode and memory; true when the user
 // accepted, and then `Value` holds the result. An empty font keeps the saved display font. The
 // dialog is a child of `parent`'s window (default: the application's active window), centred
-// on it.
+// on that window's screen.
 QORKIT_WIDGETS_EXPORT bool DisplayCalc(const std::string& Title, Extended& Value,
                                        const std::string& DispFont, std::uint8_t Decimals,
                                        bool Flat, QWidget* parent = nullptr);

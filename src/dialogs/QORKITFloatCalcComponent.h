@@ -139,8 +139,8 @@ QORKIT_WIDGETS_EXPORT bool RunFloatCalcDialog(TQORFloatCalcForm& form, const std
                                               std::uint8_t decimals, bool flat);
 
 // The DisplayCalc / DisplaySciCalc run on a new Form, a child of `parent`'s window (default: the
-// active window) centred on it; a non-empty `font` is the display font for the life of the
-// dialog.
+// active window) centred on that window's screen unless `left` / `top` place it; a non-empty
+// `font` is the display font for the life of the dialog.
 template<class Form>
 bool DisplayFloatCalc(const std::string& title, Extended& value, std::int32_t left,
                       std::int32_t top, const std::string& font, std::uint8_t decimals, bool flat,
@@ -148,7 +148,6 @@ bool DisplayFloatCalc(const std::string& title, Extended& value, std::int32_t le
 {
     const TQORDispFontScope fontScope(font);
     Form form(QORHostWindow(parent));
-    form.Place(poMainFormCenter);
     return RunFloatCalcDialog(form, title, value, left, top, decimals, flat);
 }
 

@@ -341,7 +341,6 @@ bool DisplayProgCalcPos(const std::string& Title, std::int64_t& Value, std::int3
 {
     const TQORDispFontScope font(DispFont);
     TQORProgCalcForm form(QORHostWindow(parent));
-    form.Place(poMainFormCenter);
     IQORProgCalcEngine& engine = form.GetCalcEngine();
     LoadCalculatorSettings();
     engine.SetMemory(QORProgCalcMemory);

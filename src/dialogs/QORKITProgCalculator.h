@@ -115,7 +115,7 @@ using TQORProgCalcExecutePosEvent = TQORProgCalculator::TExecutePosEvent;
 // Shows the programmer's calculator with the process-wide programmer's memory; true when the
 // user accepted, and then `Value` holds the result. `Flat` gives flat keys; a non-empty
 // `DispFont` is the display font for this dialog. The dialog is a child of `parent`'s window
-// (default: the application's active window) and opens centred on it.
+// (default: the application's active window) and opens centred on that window's screen.
 QORKIT_WIDGETS_EXPORT bool DisplayProgCalc(const std::string& Title, std::int64_t& Value, bool Flat,
                                            QWidget* parent = nullptr);
 QORKIT_WIDGETS_EXPORT bool DisplayProgCalc(const std::string& Title, std::int64_t& Value,

@@ -1,6 +1,6 @@
-// The calculator dialogs as Qt dialogs: children of the window that opens them and centred on
-// it, retranslated while open, and followed through their engine objects by any number of
-// listeners.
+// The calculator dialogs as Qt dialogs: children of the window that opens them, centred on its
+// screen or on it as their position says, retranslated while open, and followed through their
+// engine objects by any number of listeners.
 #include "CalcDialogTest.h"
 #include "QORKITCalculator.h"
 #include "QORKITEngineObjects.h"
@@ -9,9 +9,12 @@
 #include "QORKITTranslation.h"
 
 #include <QPointer>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTranslator>
+
+#include <cstdlib>
 
 namespace qorkit {
 namespace {
@@ -37,18 +40,48 @@ protected:
     QWidget host_;
 };
 
-TEST_F(QtDialogTest, FreeFunctionOpensAsChildOfItsParentCentredOnIt)
+// The free functions open the dialog as the host's child, but centred on the screen (a host
+// near the top edge must not push the dialog off it); the component's own Position may still
+// centre it on the host.
+TEST_F(QtDialogTest, FreeFunctionsOpenAsChildOfTheirParentCentredOnTheScreen)
 {
+    host_.setGeometry(20, 20, 200, 100);
+    const QRect screen = host_.screen()->availableGeometry();
+    const auto expectCentredOnScreen = [&](const QWidget& form) {
+        EXPECT_EQ(form.parentWidget(), &host_);
+        const QPoint offset = form.frameGeometry().center() - screen.center();
+        EXPECT_LE(offset.manhattanLength(), 2) << offset.x() << "," << offset.y();
+    };
     int shown = 0;
     WhenModal<TQORSciCalcForm>([&](TQORSciCalcForm& form) {
         ++shown;
-        EXPECT_EQ(form.parentWidget(), &host_);
-        ExpectCentredOnHost(form);
+        expectCentredOnScreen(form);
         form.ExitClick();
     });
     Extended value = 2;
     EXPECT_TRUE(DisplaySciCalc("Parent", value, 2, false, &host_));
-    EXPECT_EQ(shown, 1);
+    WhenModal<TQORCalcForm>([&](TQORCalcForm& form) {
+        ++shown;
+        expectCentredOnScreen(form);
+        form.ExitClick();
+    });
+    EXPECT_TRUE(DisplayCalc("Parent", value, 2, false, &host_));
+    WhenModal<TQORProgCalcForm>([&](TQORProgCalcForm& form) {
+        ++shown;
+        expectCentredOnScreen(form);
+        form.ExitClick();
+    });
+    std::int64_t integer = 5;
+    EXPECT_TRUE(DisplayProgCalc("Parent", integer, false, &host_));
+    // A position given for one coordinate keeps the other one centred.
+    WhenModal<TQORCalcForm>([&](TQORCalcForm& form) {
+        ++shown;
+        EXPECT_EQ(form.y(), 200);
+        EXPECT_LE(std::abs(form.frameGeometry().center().x() - screen.center().x()), 2);
+        form.ExitClick();
+    });
+    EXPECT_TRUE(DisplayCalcPos("Parent", value, -1, 200, 2, false, &host_));
+    EXPECT_EQ(shown, 4);
 }
 
 TEST_F(QtDialogTest, ComponentOpensOverItsOwnersWindow)
