@@ -146,6 +146,9 @@ protected:
 
     Extended ReadEditorValue() override { return GetCurrEdit()->GetAsFloat(); }
     void WriteEditorValue(Extended value) override { GetCurrEdit()->SetAsFloat(value); }
+    // Unbounded is kept as a setting only: SetValue and the arrows always stay within Min and
+    // Max here.
+    bool Clamps() const override { return true; }
 
     // Typed views of the range for the amount classes' properties, clamped to `T`.
     template<typename T> static T ToAmount(Extended value)

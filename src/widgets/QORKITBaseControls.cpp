@@ -51,7 +51,7 @@ void TQORBaseSpinEdit::SetRange(Extended min, Extended max, bool unbounded)
         {AssignChanged(max_, max), &TQORBaseSpinEdit::maxChanged},
         {AssignChanged(unbounded_, unbounded), &TQORBaseSpinEdit::unboundedChanged},
     };
-    if (!unbounded_)
+    if (Clamps())
         SetValue(GetValue());
     for (const auto& [changed, signal] : changes) {
         if (changed)
@@ -87,7 +87,7 @@ Extended TQORBaseSpinEdit::GetValue() { return ReadEditorValue(); }
 
 void TQORBaseSpinEdit::SetValue(Extended value)
 {
-    if (!unbounded_)
+    if (Clamps())
         value = std::clamp(value, min_, max_);
     WriteEditorValue(value);
 }
@@ -150,7 +150,7 @@ void TQORBaseSpinEdit::Spin(int direction, Extended amount, QObject* sender)
     (this->*events.BeforeSignal)();
     const Extended present = GetValue();
     Extended next = direction > 0 ? present + amount : present - amount;
-    if (!unbounded_) {
+    if (Clamps()) {
         const Extended limit = direction > 0 ? max_ : min_;
         const Extended other = direction > 0 ? min_ : max_;
         const bool past = direction > 0 ? next > limit : next < limit;

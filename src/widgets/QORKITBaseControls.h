@@ -50,7 +50,8 @@ public:
     bool GetUnbounded() const { return unbounded_; }
     void SetUnbounded(bool value);
     Extended GetValue();
-    // A value above Max stores Max, below Min stores Min (unless Unbounded).
+    // A value above Max stores Max, below Min stores Min (unless Unbounded lifts the bounds;
+    // the currency spin edits keep them whatever Unbounded says).
     void SetValue(Extended value);
     Extended GetStep() const { return step_; }
     void SetStep(Extended value);
@@ -112,6 +113,8 @@ protected:
     TQORBaseSpinEdit(TQORBaseEdit* editor, QWidget* parent);
     virtual Extended ReadEditorValue() = 0;
     virtual void WriteEditorValue(Extended value) = 0;
+    // Whether SetValue and the steps keep the value between Min and Max: unless Unbounded.
+    virtual bool Clamps() const { return !unbounded_; }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

@@ -84,6 +84,23 @@ TEST_P(CurrSpinTest, WithoutWrapClicksStayAtMax)
     EXPECT_EQ(spin_->GetValue(), 10);
 }
 
+// Unbounded is a stored setting of the currency spin edits; it does not lift the clamp of
+// SetValue nor the stop and two-click wrap of the arrows.
+TEST_P(CurrSpinTest, UnboundedLeavesTheClampAndTheArrowsAlone)
+{
+    spin_->SetUnbounded(true);
+    ASSERT_TRUE(spin_->GetUnbounded());
+    spin_->SetValue(50);
+    EXPECT_EQ(spin_->GetValue(), 10);
+    spin_->SetValue(9);
+    QTest::mouseClick(Arrow("UpBtn"), Qt::LeftButton);
+    EXPECT_EQ(spin_->GetValue(), 10);
+    QTest::mouseClick(Arrow("UpBtn"), Qt::LeftButton);
+    EXPECT_EQ(spin_->GetValue(), 0);
+    QTest::mouseClick(Arrow("DownBtn"), Qt::LeftButton);
+    EXPECT_EQ(spin_->GetValue(), 10);
+}
+
 TEST_P(CurrSpinTest, SetValueClampsAndBoundsFollowEachOther)
 {
     spin_->SetValue(25);
