@@ -489,15 +489,9 @@ void TQORBaseCurrEdit::DoThousands()
         }
     }
     if (s != before) {
-        // The caret stays after the same character the user typed: count what precedes it
-        // without the grouping characters, which are all that changed.
-        const QChar sep = QLatin1Char(thousands);
-        const qsizetype kept = before.left(caret).size() - before.left(caret).count(sep);
-        qsizetype newCaret = 0;
-        for (qsizetype seen = 0; newCaret < s.size() && seen < kept; ++newCaret) {
-            if (s[newCaret] != sep)
-                ++seen;
-        }
+        // The caret moves by the change in length.
+        const qsizetype newCaret
+            = std::clamp<qsizetype>(caret + s.size() - before.size(), 0, s.size());
         {
             // Still the user's typing, not a text set from outside: the change is announced
             // below, once the edit is marked modified again. (Replacing the text as an edit

@@ -108,7 +108,9 @@ const GroupingCase GroupingCases[] = {
     {"DecimalsNeverGrouped", "1234567.891", "1,234,567.891", 13},
     {"MinusInFront", "-1234", "-1,234", 6},
     {"SymbolBetweenDigitsResetsTheCount", "12$3456", "12$3,456", 8},
-    {"DigitTypedInTheMiddle", "123456<<<0", "1,230,456", 5},
+    // The caret moves by the change in length, so a new separator left of it moves it too.
+    {"DigitTypedInTheMiddle", "123456<<<0", "1,230,456", 6},
+    {"DigitTypedInFront", "123456<<<<<<<7", "7,123,456", 2},
     {"BackspaceOverSeparatorRemovesTheDigit", "1234<<<\b", "234", 0},
     {"DeleteOverSeparatorRemovesTheDigit", "1234<<<<#", "134", 1},
     {"NoGroupingWhenSwitchedOff", "1234567", "1234567", 7,
