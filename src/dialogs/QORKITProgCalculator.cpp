@@ -229,9 +229,11 @@ void TQORProgCalcForm::LoadLists()
     for (const auto& [combo, texts] : lists) {
         const int selected = combo->GetItemIndex();
         const QSignalBlocker quiet(combo);
-        combo->clear();
+        QStringList items;
         for (int i = 0; i < 4; ++i)
-            combo->addItem(ToQString(texts[i]()));
+            items << ToQString(texts[i]());
+        combo->clear();
+        combo->addItems(items);
         combo->SetItemIndex(selected);
     }
 }
