@@ -208,8 +208,6 @@ void FitCaption(QToolButton* key, const QFont& base, TCaptionFits& fits)
         key->setFont(font);
 }
 
-// A calculator key: a tool button whose size the key grid fixes. Once fixed, that size is its
-// size hint, so laying the grid out does not measure the caption and icon it overrides anyway.
 // Sets the value kept for `key` in a short list of pairs, adding the pair the first time.
 template<class Key, class Value>
 void Keep(std::vector<std::pair<Key, Value>>& pairs, Key key, const Value& value)
@@ -255,8 +253,10 @@ TKeyAccessTexts KeyAccessTexts(std::string_view key, bool programmers)
     });
 }
 
-// The form previews what reaches a key (typed keys, presses) itself, without an event filter
-// that every other event of the key would pass through.
+// A calculator key: a tool button whose size the key grid fixes; once fixed, that size is also
+// its size hint (a host laying the key panel out gets the grid's size without the caption and
+// icon being measured). The form previews what reaches a key (typed keys, presses) itself,
+// without an event filter that every other event of the key would pass through.
 class TKeyButton final : public QToolButton {
 public:
     TKeyButton(QWidget* panel, QObject* form) : QToolButton(panel), form_(form) { }
